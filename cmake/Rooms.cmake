@@ -1,0 +1,35 @@
+# SPDX-FileCopyrightText: The Pixmallow authors
+# SPDX-License-Identifier: MIT
+
+# What every target of the project is compiled with.
+function(pixmallow_compile_options target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Werror)
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+endfunction()
+
+# pixmallow_room(base SOURCES ... LINKS ...): one folder of src/ as a static library. LINKS repeats
+# the row of the include table in ARCHITECTURE.md.
+function(pixmallow_room room)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINKS")
+    string(REPLACE "/" "_" target ${room})
+    add_library(${target} STATIC ${ARG_SOURCES})
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+    pixmallow_compile_options(${target})
+endfunction()
+
+# pixmallow_test(base/PngWriterTest LINKS ...): one test program from tests/base/PngWriterTest.cpp,
+# its cases known to ctest by name.
+function(pixmallow_test path)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINKS;PROPERTIES")
+    get_filename_component(target ${path} NAME)
+    add_executable(${target} ${CMAKE_SOURCE_DIR}/tests/${path}.cpp ${ARG_SOURCES})
+    target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${target} PRIVATE ${ARG_LINKS} GTest::gmock)
+    if(NOT "OWN_MAIN" IN_LIST ARG_UNPARSED_ARGUMENTS)
+        target_link_libraries(${target} PRIVATE GTest::gtest_main)
+    endif()
+    pixmallow_compile_options(${target})
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 PROPERTIES ${ARG_PROPERTIES})
+endfunction()
