@@ -9,9 +9,10 @@
 #include <variant>
 
 /// Why something did not happen. Cancelled is the user's wish and is never shown as a failure;
-/// the message of Failed is a whole sentence for the user.
+/// the message of the others is a whole sentence for the user. Exists says that a name is taken, so
+/// that the caller may try another.
 struct Error {
-    enum class Kind { Cancelled, Failed };
+    enum class Kind { Cancelled, Failed, Exists };
 
     Kind kind = Kind::Failed;
     QString message;
