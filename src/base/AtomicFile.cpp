@@ -100,8 +100,10 @@ bool renameWithoutReplacing(const char* from, const char* to)
         return true;
     if (errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
         return false;
-    if (link(from, to) == 0)
-        return unlink(from) == 0;
+    if (link(from, to) == 0) {
+        unlink(from);
+        return true;
+    }
     return errno != EEXIST && renameOverClaim(from, to);
 }
 

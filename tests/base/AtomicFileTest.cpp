@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <string>
 #include <thread>
 #include <tuple>
 #include <vector>
@@ -48,11 +49,10 @@ mode_t modeOf(const QString& path)
 class AtomicFileTest : public testing::Test {
 protected:
     QString path(const QString& name) const { return m_folder.filePath(name); }
-    QStringList names() const
+    std::string names(QDir::Filters hidden = QDir::Hidden) const
     {
-        return QDir(m_folder.path())
-            .entryList(
-                QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+        const auto all = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
+        return QDir(m_folder.path()).entryList(all | hidden).join(u' ').toStdString();
     }
 
     const QTemporaryDir m_folder;
@@ -69,9 +69,9 @@ TEST_F(AtomicFileTest, leavesTheFolderAsItWasUntilCommitted)
             EXPECT_EQ(
                 bool(file.open()), !(name == u"shot.png"_s && options.existing == Existing::Keep));
             std::ignore = file.write(bytesOf("new"));
-            EXPECT_EQ(names(), QStringList(u"shot.png"_s));
+            EXPECT_EQ(names({}), "shot.png");
         }
-    EXPECT_EQ(names(), QStringList(u"shot.png"_s));
+    EXPECT_EQ(names(), "shot.png");
     EXPECT_EQ(contentOf(path(u"shot.png"_s)), "old");
 }
 
@@ -138,7 +138,7 @@ TEST_F(AtomicFileTest, ofManyThatWantOneNameExactlyOneGetsIt)
         ASSERT_EQ(losers, 7);
         ASSERT_EQ(contentOf(name), QByteArray(1000, char('a' + winner)));
     }
-    EXPECT_EQ(names().size(), rounds);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden).size(), rounds);
 }
 
 TEST_F(AtomicFileTest, replacesWhatALinkPointsAtAndKeepsItsPermissions)
@@ -173,7 +173,7 @@ TEST_F(AtomicFileTest, writesStraightIntoWhatIsNoRegularFile)
         std::jthread writer([&] { EXPECT_TRUE(writeFile(path(u"fifo"_s), "through", options)); });
         EXPECT_EQ(contentOf(path(u"fifo"_s)), "through");
     }
-    EXPECT_EQ(names(), QStringList(u"fifo"_s));
+    EXPECT_EQ(names(), "fifo");
     EXPECT_TRUE(writeFile(u"/dev/null"_s, "away", replace));
 
     // Standard output appended to a file goes on where that stood, and is not replaced.
