@@ -23,6 +23,9 @@ struct Display {
     friend bool operator==(const Display&, const Display&) = default;
 };
 
+/// The display that shows most of a native rectangle; null when none shows any of it.
+const Display* displayShowingMost(QRect native, const QList<Display>& displays);
+
 /// The screens and the pointer among them.
 class Displays {
 public:

@@ -169,24 +169,12 @@ Result<Frozen> X11ScreenCapture::readWindow(WindowId id, WindowShadow shadow, Po
         return bitmap.error();
 
     auto picture = cutToShape(*m_connection, window, rect, *std::move(bitmap));
-    if (shadow == WindowShadow::Kept && !keepsOwnShadow)
-        picture = withDrawnShadow(picture, scaleAt(window.frame()));
-    return Frozen(std::make_shared<BitmapRows>(std::move(picture)));
-}
-
-/// Of the screen that shows most of it.
-double X11ScreenCapture::scaleAt(QRect native) const
-{
-    double scale = 1;
-    qint64 most = 0;
-    for (const auto& display : m_displays.list()) {
-        const QRect part = display.native & native;
-        if (const qint64 pixels = qint64(part.width()) * part.height(); pixels > most) {
-            most = pixels;
-            scale = display.scale;
-        }
+    if (shadow == WindowShadow::Kept && !keepsOwnShadow) {
+        const auto displays = m_displays.list();
+        const Display* display = displayShowingMost(window.frame(), displays);
+        picture = withDrawnShadow(picture, display ? display->scale : 1);
     }
-    return scale;
+    return Frozen(std::make_shared<BitmapRows>(std::move(picture)));
 }
 
 /// Gives a picture the means to be read fast, and the pointer if it is wanted.

@@ -28,7 +28,6 @@ private:
     Result<std::shared_ptr<FrozenPixmap>> freeze(
         QRect area, const QSet<xcb_window_t>& excludedTopLevels);
     Result<Frozen> readWindow(WindowId id, WindowShadow shadow, Pointer pointer);
-    double scaleAt(QRect native) const;
     void prepare(FrozenPixmap& frozen, Pointer pointer);
 
     std::shared_ptr<X11Connection> m_connection;

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "cli/Arguments.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Parses the options of one command. The messages of the parser are whole sentences already.
+std::optional<Error> parse(QCommandLineParser& parser, const QStringList& words,
+    const QList<QCommandLineOption>& options, qsizetype positionals)
+{
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addOptions(options);
+    if (!parser.parse(QStringList {u"pixmallow"_s} + words))
+        return Error::failed(parser.errorText());
+    const auto extra = parser.positionalArguments();
+    if (extra.size() > positionals)
+        return Error::failed(u"Unexpected argument '%1'."_s.arg(extra[positionals]));
+    for (const auto& option : options)
+        if (parser.values(option).size() > 1)
+            return Error::failed(u"--%1 is given twice."_s.arg(option.names().first()));
+    return std::nullopt;
+}
+
+std::optional<std::uint32_t> windowNumber(const QString& text)
+{
+    bool valid = false;
+    const auto id = text.toUInt(&valid, 0); // Decimal, or hexadecimal with 0x.
+    return valid && id ? std::optional(id) : std::nullopt;
+}
+
+Result<ShotTarget> shotTarget(const QCommandLineParser& parser)
+{
+    const QString screen = parser.value(u"screen"_s), window = parser.value(u"window"_s),
+                  area = parser.value(u"area"_s);
+    const int chosen = int(parser.isSet(u"screen"_s)) + int(parser.isSet(u"window"_s))
+        + int(parser.isSet(u"area"_s));
+    if (chosen > 1)
+        return Error::failed(u"Only one of --screen, --window and --area can be given."_s);
+    if (parser.isSet(u"screen"_s)) {
+        bool valid = false;
+        const int number = screen.toInt(&valid);
+        if (!valid || number < 1)
+            return Error::failed(u"--screen takes a number from 1, not '%1'."_s.arg(screen));
+        return ShotTarget(ScreenNumber {number});
+    }
+    if (parser.isSet(u"window"_s)) {
+        const auto id = windowNumber(window);
+        if (!id)
+            return Error::failed(u"--window takes a number as 'pixmallow list windows' shows, "
+                                 "not '%1'."_s.arg(window));
+        return ShotTarget(WindowNumber {*id});
+    }
+    if (parser.isSet(u"area"_s)) {
+        const auto rect = parseArea(area);
+        if (!rect)
+            return Error::failed(u"--area takes X,Y,WxH in pixels, not '%1'."_s.arg(area));
+        return ShotTarget(*rect);
+    }
+    return ShotTarget(WholeDesktop {});
+}
+
+Result<Request> parseShot(const QStringList& words)
+{
+    QCommandLineParser parser;
+    const QList<QCommandLineOption> options {{u"output"_s, {}, u"FILE"_s},
+        {u"screen"_s, {}, u"N"_s}, {u"window"_s, {}, u"ID"_s}, {u"area"_s, {}, u"X,Y,WxH"_s},
+        QCommandLineOption(u"cursor"_s), QCommandLineOption(u"shadow"_s),
+        QCommandLineOption(u"json"_s)};
+    if (const auto wrong = parse(parser, words, options, 0))
+        return *wrong;
+    const auto target = shotTarget(parser);
+    if (!target)
+        return target.error();
+
+    ShotRequest request {*target, parser.value(u"output"_s), parser.isSet(u"cursor"_s),
+        parser.isSet(u"shadow"_s), parser.isSet(u"json"_s)};
+    if (parser.isSet(u"output"_s) && request.output.isEmpty())
+        return Error::failed(u"--output needs a file name, or - for standard output."_s);
+    if (request.output == u"-"_s && request.json)
+        return Error::failed(u"--json and --output - both want standard output."_s);
+    if (request.shadow && !std::holds_alternative<WindowNumber>(request.target))
+        return Error::failed(u"--shadow goes with --window."_s);
+    const QString extension = QFileInfo(request.output).suffix().toLower();
+    if (extension == u"jpg"_s || extension == u"jpeg"_s)
+        return Error::failed(u"'shot' writes PNG files; choose a name that ends in .png."_s);
+    return Request(std::move(request));
+}
+
+Result<Request> parseList(const QStringList& words)
+{
+    QCommandLineParser parser;
+    if (const auto wrong = parse(parser, words, {QCommandLineOption(u"json"_s)}, 1))
+        return *wrong;
+    const QString what = parser.positionalArguments().value(0);
+    if (what != u"screens"_s && what != u"windows"_s)
+        return Error::failed(u"'list' takes 'screens' or 'windows'."_s);
+    return Request(
+        ListRequest {what == u"screens"_s ? ListRequest::What::Screens : ListRequest::What::Windows,
+            parser.isSet(u"json"_s)});
+}
+
+} // namespace
+
+Result<Request> parseArguments(const QStringList& arguments)
+{
+    const QString command = arguments.value(0);
+    const QStringList rest = arguments.mid(1);
+    if (rest.contains(u"--help"_s) || command == u"--help"_s || command == u"-h"_s
+        || command == u"help"_s)
+        return Request(HelpRequest {});
+    if (command == u"--version"_s)
+        return Request(VersionRequest {});
+    if (command == u"shot"_s)
+        return parseShot(rest);
+    if (command == u"list"_s)
+        return parseList(rest);
+    if (command.isEmpty())
+        return Error::failed(u"No command given."_s);
+    return Error::failed(u"Unknown command '%1'."_s.arg(command));
+}
+
+std::optional<QRect> parseArea(const QString& text)
+{
+    static const QRegularExpression pattern(u"^(-?\\d{1,5}),(-?\\d{1,5}),(\\d{1,5})x(\\d{1,5})$"_s);
+    const auto match = pattern.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const auto number = [&](int group) { return match.captured(group).toInt(); };
+    const QRect area(number(1), number(2), number(3), number(4));
+    return area.isEmpty() ? std::nullopt : std::optional(area);
+}
+
+QString helpText()
+{
+    return uR"(Pixmallow takes screenshots.
+
+usage:
+  pixmallow shot [--output FILE|-] [--screen N | --window ID | --area X,Y,WxH]
+                 [--cursor] [--shadow] [--json]
+  pixmallow list screens|windows [--json]
+  pixmallow --version | --help
+
+shot   Writes a picture of the whole desktop to a PNG file and nothing else: no
+       history, no clipboard, no window. Made for scripts.
+  --output FILE  replace FILE, or make it; - is standard output. Without it the
+                 file gets a dated name in the current folder, which is printed.
+  --screen N     one screen, as numbered by 'list screens'
+  --window ID    one window by itself, even if others cover it
+  --area X,Y,WxH part of the desktop, in device pixels from its top left corner
+  --cursor       with the mouse pointer
+  --shadow       with the window's shadow
+  --json         print where the picture is and what it shows
+
+list   Prints the screens, or the windows on screen with the front-most first.
+
+Exit code: 0 done, 2 failed, 64 wrong arguments.
+)"_s;
+}

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/Result.h"
+
+#include <QRect>
+#include <QStringList>
+
+#include <cstdint>
+#include <optional>
+#include <variant>
+
+/// What to take a picture of; nothing chosen means all screens.
+struct WholeDesktop { };
+struct ScreenNumber {
+    int number; ///< As `list screens` counts, from 1.
+};
+struct WindowNumber {
+    std::uint32_t id;
+};
+using ShotTarget = std::variant<WholeDesktop, ScreenNumber, WindowNumber, QRect>;
+
+struct ShotRequest {
+    ShotTarget target;
+    QString output; ///< "-" is standard output; empty: a dated name in the current folder.
+    bool cursor = false;
+    bool shadow = false; ///< Only of a window.
+    bool json = false;
+};
+
+struct ListRequest {
+    enum class What { Screens, Windows } what = What::Screens;
+    bool json = false;
+};
+
+struct HelpRequest { };
+struct VersionRequest { };
+
+using Request = std::variant<ShotRequest, ListRequest, HelpRequest, VersionRequest>;
+
+/// What the words behind the program's name ask for, or one line that says what is wrong with them.
+Result<Request> parseArguments(const QStringList& arguments);
+
+/// "X,Y,WxH", whole numbers, neither extent 0.
+std::optional<QRect> parseArea(const QString& text);
+
+QString helpText();

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "cli/Print.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+Result<void> print(const QByteArray& text)
+{
+    const auto length = std::size_t(text.size());
+    if (std::fwrite(text.constData(), 1, length, stdout) != length || std::fflush(stdout) != 0)
+        return Error::failed(u"Cannot write to standard output: %1."_s.arg(
+            QString::fromLocal8Bit(std::strerror(errno))));
+    return {};
+}
+
+Result<void> print(const QJsonValue& value)
+{
+    const auto document
+        = value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
+    return print(document.toJson(QJsonDocument::Compact) + '\n');
+}
+
+QJsonObject toJson(QRect rect)
+{
+    return {{u"x"_s, rect.x()}, {u"y"_s, rect.y()}, {u"width"_s, rect.width()},
+        {u"height"_s, rect.height()}};
+}

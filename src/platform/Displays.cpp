@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "platform/Displays.h"
+
+const Display* displayShowingMost(QRect native, const QList<Display>& displays)
+{
+    const Display* best = nullptr;
+    qint64 most = 0;
+    for (const auto& display : displays) {
+        const QRect part = display.native & native;
+        if (const qint64 pixels = qint64(part.width()) * part.height(); pixels > most) {
+            most = pixels;
+            best = &display;
+        }
+    }
+    return best;
+}
