@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+/// The inner loops over one row of pixels, 0xAARRGGBB each. Outputs hold exactly what is said, with
+/// nothing written behind it.
+struct PixelRows {
+    /// Bytes red, green, blue of each pixel: 3 × width.
+    void (*rgb)(const std::uint32_t* row, std::uint8_t* out, int width);
+    /// The same, each byte less the one above it (modulo 256).
+    void (*rgbUp)(
+        const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width);
+    /// Bytes red, green, blue, alpha of each pixel: 4 × width.
+    void (*rgba)(const std::uint32_t* row, std::uint8_t* out, int width);
+    void (*rgbaUp)(
+        const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width);
+    /// Whether every alpha is 255.
+    bool (*opaque)(const std::uint32_t* row, int width);
+};
+
+const PixelRows& portablePixelRows();
+
+/// With the processor's vector instructions; null where the build or the processor has none.
+const PixelRows* vectorPixelRows();
