@@ -30,7 +30,7 @@ Result<void> run(HelpRequest)
 
 Result<void> run(VersionRequest)
 {
-    return print("pixmallow " PIXMALLOW_VERSION "\n");
+    return print(QByteArray("pixmallow " PIXMALLOW_VERSION "\n"));
 }
 
 int fail(const Error& error, ExitCode code)
