@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "capture/Capture.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const Display sharp {1, u"L"_s, QRect(0, 0, 2560, 1600), 2, QRectF(0, 0, 1280, 800)};
+const Display plain {2, u"R"_s, QRect(2560, 100, 1000, 700), 1, QRectF(2560, 0, 1000, 700)};
+
+Window window(WindowId id, QRect frame, qint64 processId = 1, const QString& name = u"App"_s)
+{
+    return {id, {}, frame, 0, true, {name.toLower(), name, processId}};
+}
+
+QList<WindowId> ids(const QList<Window>& windows)
+{
+    QList<WindowId> ids;
+    for (const auto& each : windows)
+        ids.push_back(each.id);
+    return ids;
+}
+
+} // namespace
+
+TEST(CaptureTest, ordersWindowsFrontToBackAndKeepsUnknownOnesStableBehind)
+{
+    QList<Window> windows {window(1, {}), window(2, {}), window(3, {}), window(4, {})};
+    Capture::sortFrontToBack(windows, {{4, 0}, {2, 7}});
+    EXPECT_THAT(ids(windows), testing::ElementsAre(4, 2, 1, 3));
+}
+
+TEST(CaptureTest, offersOnlyOrdinaryForeignWindowsLargerThanFortyPoints)
+{
+    auto dock = window(6, {0, 0, 500, 500}), hidden = dock, own = dock;
+    dock.layer = 20;
+    hidden.onScreen = false;
+    own.application.id = ownApplicationId;
+    const QList<Window> windows {window(1, {0, 0, 80, 300}), window(2, {0, 0, 82, 300}),
+        window(3, {2600, 200, 41, 41}), window(4, {2600, 200, 41, 40}), window(5, {0, 0, 300, 80}),
+        dock, hidden, own};
+    EXPECT_THAT(ids(Capture::regionCandidates(windows, {{3, 0}, {2, 1}}, {sharp, plain})),
+        testing::ElementsAre(3, 2));
+
+    // A window capture does not mind the height.
+    const auto front = Capture::frontWindow(
+        {window(1, {0, 0, 900, 900}, 2), window(2, {0, 0, 80, 90}, 1), window(3, {0, 0, 90, 9}, 1)},
+        {{1, 0}, {2, 1}, {3, 2}}, 1, {sharp, plain});
+    ASSERT_TRUE(front);
+    EXPECT_EQ(front->id, 3u);
+    EXPECT_FALSE(Capture::frontWindow({window(1, {0, 0, 900, 900}, 2)}, {}, 1, {sharp}));
+}
+
+TEST(CaptureTest, convertsBetweenPixelsAndPoints)
+{
+    EXPECT_EQ(Capture::appKitRect({0, 0, 800, 600}, 900), QRectF(0, 300, 800, 600));
+    EXPECT_EQ(Capture::toPoints({0, 0, 1600, 1200}, sharp), QRectF(0, 200, 800, 600));
+    EXPECT_EQ(Capture::toPoints({2570, 120, 100, 50}, plain), QRectF(2570, 630, 100, 50));
+    EXPECT_EQ(Capture::scaleOf({2500, 0, 100, 100}, {plain, sharp}), 2);
+    EXPECT_EQ(Capture::scaleOf({2600, 200, 10, 10}, {sharp, plain}), 1);
+    EXPECT_EQ(Capture::scaleOf({9000, 0, 10, 10}, {plain}), 2) << "nowhere";
+}
+
+TEST(CaptureTest, findsTheScreenUnderThePointerElseThePrimary)
+{
+    const QList<Display> both {sharp, plain};
+    EXPECT_EQ(Capture::screenUnder({2560, 100}, both), plain);
+    EXPECT_EQ(Capture::screenUnder({2559, 100}, both), sharp);
+    EXPECT_EQ(Capture::screenUnder({2560, 99}, both), sharp) << "in the gap";
+    EXPECT_FALSE(Capture::screenUnder({}, {}));
+    EXPECT_EQ(Capture::screen(2, both), plain);
+    EXPECT_FALSE(Capture::screen(3, both));
+}
+
+TEST(CaptureTest, cropsExactlyTheDevicePixelsOfASelection)
+{
+    EXPECT_EQ(Capture::cropRectangle({100, 100, 200, 50}, {1440, 900}, {2880, 1800}),
+        QRect(200, 1500, 400, 100));
+    EXPECT_EQ(Capture::cropRectangle({0.4, 0.4, 1, 1}, {10, 10}, {10, 10}), QRect(0, 8, 2, 2))
+        << "widened to whole pixels";
+    // Any native rectangle survives the way to points and back, at any scale.
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0})
+        for (int x = 0; x < 300; x += 7) {
+            const QSize native(1921, 1083);
+            const QRect rect(x, 2 * x, 301 - x, 13 + x);
+            const double height = native.height() / scale;
+            const QRectF points(rect.x() / scale, height - (rect.y() + rect.height()) / scale,
+                rect.width() / scale, rect.height() / scale);
+            EXPECT_EQ(Capture::cropRectangle(points, QSizeF(native) / scale, native), rect)
+                << scale << ' ' << x;
+        }
+}
+
+TEST(CaptureTest, namesTheProgramUnderTheCentre)
+{
+    const QList<Window> sorted {
+        window(1, {0, 0, 100, 100}, 1, u"Front"_s), window(2, {0, 0, 300, 300}, 2, u"Back"_s)};
+    EXPECT_EQ(Capture::applicationAt({99, 99}, sorted, u"Last"_s), u"Front"_s);
+    EXPECT_EQ(Capture::applicationAt({100, 99}, sorted, u"Last"_s), u"Back"_s);
+    EXPECT_EQ(Capture::applicationAt({400, 99}, sorted, u"Last"_s), u"Last"_s);
+}
