@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "cli/Arguments.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Result<Request> parse(const QString& words)
+{
+    return parseArguments(words.split(u' ', Qt::SkipEmptyParts));
+}
+
+} // namespace
+
+TEST(ArgumentsTest, understandsShot)
+{
+    const auto request = parse(u"shot --area -10,20,300x400 --output a.png --cursor --json"_s);
+    ASSERT_TRUE(request) << request.error().message.toStdString();
+    const auto& shot = std::get<ShotRequest>(*request);
+    EXPECT_EQ(std::get<QRect>(shot.target), QRect(-10, 20, 300, 400));
+    EXPECT_EQ(shot.output, u"a.png"_s);
+    EXPECT_TRUE(shot.cursor && shot.json && !shot.shadow);
+
+    const auto window = [](const QString& id) {
+        const auto parsed = parse(u"shot --shadow --output - --window="_s + id);
+        return parsed ? std::get<WindowNumber>(std::get<ShotRequest>(*parsed).target).id : 0;
+    };
+    EXPECT_EQ(window(u"0x1400003"_s), 0x1400003u);
+    EXPECT_EQ(window(u"20971523"_s), 20971523u);
+    EXPECT_TRUE(
+        std::holds_alternative<WholeDesktop>(std::get<ShotRequest>(*parse(u"shot"_s)).target));
+}
+
+TEST(ArgumentsTest, refusesWhatItDoesNotUnderstandInOneLine)
+{
+    for (const auto& words : {u""_s, u"shoot"_s, u"shot extra"_s, u"shot --screen"_s,
+             u"shot --screen 0"_s, u"shot --screen one"_s, u"shot --window 0"_s,
+             u"shot --window 99999999999"_s, u"shot --area 1,2,3"_s, u"shot --area 1,2,0x5"_s,
+             u"shot --area 1,2,5x5x5"_s, u"shot --area 0,0,100000x1"_s,
+             u"shot --screen 1 --window 5"_s, u"shot --screen 1 --screen 2"_s,
+             u"shot --output= --json"_s, u"shot --output a.jpg"_s, u"shot --output a.JPEG"_s,
+             u"shot --output - --json"_s, u"shot --shadow"_s, u"shot --colour"_s, u"list"_s,
+             u"list doors"_s, u"list screens windows"_s, u"list screens --cursor"_s}) {
+        const auto request = parse(words);
+        ASSERT_FALSE(request) << words.toStdString();
+        EXPECT_FALSE(request.error().message.isEmpty()) << words.toStdString();
+        EXPECT_FALSE(request.error().message.contains(u'\n')) << words.toStdString();
+    }
+}
