@@ -19,11 +19,11 @@ enum class Compositor { None, Picom };
 /// What a virtual desktop consists of.
 struct DesktopOptions {
     /// Native pixels of the root window. Empty: what the monitors cover, or 1280 by 800.
-    QSize size;
+    QSize size = {};
 
     /// The first takes the server's only output and becomes the primary one. None: one monitor
     /// named "screen" that is the whole root window.
-    std::vector<Monitor> monitors;
+    std::vector<Monitor> monitors = {};
 
     /// Pixels per point everywhere, told to clients by QT_SCALE_FACTOR; Qt multiplies it with the
     /// scales of the monitors.
@@ -31,5 +31,5 @@ struct DesktopOptions {
 
     Compositor compositor = Compositor::None;
     bool windowManager = true; ///< openbox
-    bool tray = false; ///< tint2 at the bottom, 30 pixels high, with a clock and a tray.
+    bool tray = false; ///< tint2 at the bottom, 30 pixels high, with a list of windows and a tray.
 };

@@ -22,10 +22,8 @@ while left=$(grep -lsxzF "XDG_RUNTIME_DIR=$1/runtime" /proc/[0-9]*/environ | tr 
     sleep 0.1
     round=$((round + 1))
 done
-if read -r number server < "$1/server" && ! kill -0 "$server" \
-        && [ "$(tr -d ' ' < "/tmp/.X$number-lock")" = "$server" ]; then
-    rm -f "/tmp/.X$number-lock" "/tmp/.X11-unix/X$number"
-fi
+socket=$(cat "$1/socket")
+if [ -n "$socket" ] && ! grep -q "$socket\$" /proc/net/unix; then rm -f "$socket"; fi
 rm -rf -- "$1"
 )sh";
 

@@ -33,16 +33,17 @@ constexpr const char* busConfiguration = R"(<!DOCTYPE busconfig PUBLIC
 </busconfig>
 )";
 
-constexpr const char* trayConfiguration = R"(panel_items = TSC
+/// No clock: what ticks spoils comparisons of pixels.
+constexpr const char* trayConfiguration = R"(rounded = 0
+border_width = 0
+background_color = #222222 100
+panel_items = TS
 panel_size = 100% 30
 panel_position = bottom center horizontal
 panel_monitor = primary
+panel_background_id = 1
 systray_padding = 4 2 4
 systray_icon_size = 24
-time1_format = %H:%M
-rounded = 0
-border_width = 0
-background_color = #222222 100
 )";
 
 QProcessEnvironment cleanEnvironment()
@@ -171,6 +172,9 @@ Result<void> VirtualDesktop::makeHome()
 
 Result<void> VirtualDesktop::startServer()
 {
+    constexpr int most = 32767; // Coordinates of the protocol; Xvfb itself takes more in silence.
+    if (m_options.size.width() > most || m_options.size.height() > most)
+        return Error::failed(u"A virtual desktop has at most %1 pixels each way."_s.arg(most));
     const QString screen = u"%1x%2x24"_s.arg(m_options.size.width()).arg(m_options.size.height());
     const auto server = startService(u"Xvfb"_s,
         {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, screen, u"-dpi"_s, u"96"_s, u"-nolisten"_s,
@@ -180,8 +184,7 @@ Result<void> VirtualDesktop::startServer()
     const auto number = firstLine(**server);
     if (!number)
         return number.error();
-    const QByteArray process = QByteArray::number((*server)->process.processId());
-    if (const auto written = write(u"server"_s, *number + ' ' + process + '\n'); !written)
+    if (const auto written = write(u"socket"_s, "/tmp/.X11-unix/X" + *number); !written)
         return written;
     m_environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(*number));
     if (const auto connected = connect(m_environment.value(u"DISPLAY"_s)); !connected)

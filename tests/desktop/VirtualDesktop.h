@@ -28,6 +28,9 @@ public:
     QProcessEnvironment environment() const { return m_environment; }
     QString home() const { return m_environment.value(QStringLiteral("HOME")); }
 
+    /// Makes that environment the one of this process as well.
+    void enter() const;
+
     struct Finished {
         int exitCode; ///< 128 + the signal if one ended it.
         QByteArray output;

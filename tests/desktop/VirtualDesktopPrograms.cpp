@@ -19,6 +19,17 @@ QString logOf(const QString& path)
 
 } // namespace
 
+void VirtualDesktop::enter() const
+{
+    const QStringList before = QProcessEnvironment::systemEnvironment().keys();
+    for (const QString& name : before)
+        if (!m_environment.contains(name))
+            qunsetenv(qPrintable(name));
+    const QStringList now = m_environment.keys();
+    for (const QString& name : now)
+        qputenv(qPrintable(name), m_environment.value(name).toLocal8Bit());
+}
+
 QString VirtualDesktop::find(const QString& program) const
 {
     const QStringList folders = m_environment.value(u"PATH"_s).split(u':');

@@ -7,7 +7,52 @@
 
 #include <QPainter>
 
+#include <optional>
+#include <sys/uio.h>
 #include <xcb/randr.h>
+#include <xcb/xcbext.h>
+
+namespace {
+
+/// The server's output if no monitor that was set has taken it yet.
+std::optional<xcb_randr_output_t> freeOutput(xcb_connection_t* connection, xcb_window_t root)
+{
+    const auto monitors = owned(xcb_randr_get_monitors_reply(
+        connection, xcb_randr_get_monitors(connection, root, 1), nullptr));
+    const auto resources = owned(xcb_randr_get_screen_resources_current_reply(
+        connection, xcb_randr_get_screen_resources_current(connection, root), nullptr));
+    if (!monitors || !resources || resources->num_outputs == 0)
+        return {};
+    for (auto each = xcb_randr_get_monitors_monitors_iterator(monitors.get()); each.rem;
+         xcb_randr_monitor_info_next(&each))
+        if (!each.data->automatic && each.data->nOutput > 0)
+            return {};
+    return *xcb_randr_get_screen_resources_current_outputs(resources.get());
+}
+
+/// RRSetMonitor, put together by hand: xcb_randr_set_monitor of libxcb 1.15 sends a wrong length,
+/// upon which the connection closes.
+bool setMonitor(xcb_connection_t* connection, xcb_window_t root,
+    const xcb_randr_monitor_info_t& info, std::optional<xcb_randr_output_t> output)
+{
+    struct {
+        xcb_randr_set_monitor_request_t head {};
+        xcb_randr_monitor_info_t info {};
+        xcb_randr_output_t output = XCB_NONE;
+    } request;
+    request.head.window = root;
+    request.info = info;
+    request.output = output.value_or(XCB_NONE);
+    xcb_protocol_request_t protocol {
+        .count = 1, .ext = &xcb_randr_id, .opcode = XCB_RANDR_SET_MONITOR, .isvoid = 1};
+    iovec parts[3] {}; // The library wants room for two parts of its own before the first.
+    parts[2] = {&request, sizeof request - (output ? 0 : sizeof request.output)};
+    const xcb_void_cookie_t cookie {
+        xcb_send_request(connection, XCB_REQUEST_CHECKED, parts + 2, &protocol)};
+    return !owned(xcb_request_check(connection, cookie)) && !xcb_connection_has_error(connection);
+}
+
+} // namespace
 
 Result<void> XDisplay::connect(const QString& name)
 {
@@ -114,38 +159,23 @@ void XDisplay::setRootPicture(const QImage& picture)
 
 Result<void> XDisplay::addMonitor(const Monitor& monitor)
 {
-    bool outputTaken = false;
-    const auto present = owned(xcb_randr_get_monitors_reply(
-        connection(), xcb_randr_get_monitors(connection(), screen().root, 1), nullptr));
-    if (!present)
-        return Error::failed(QStringLiteral("The server has no monitors to set."));
-    for (auto each = xcb_randr_get_monitors_monitors_iterator(present.get()); each.rem;
-         xcb_randr_monitor_info_next(&each))
-        outputTaken |= !each.data->automatic && each.data->nOutput > 0;
-    const auto resources = owned(xcb_randr_get_screen_resources_current_reply(connection(),
-        xcb_randr_get_screen_resources_current(connection(), screen().root), nullptr));
-    const int outputs = outputTaken || !resources || resources->num_outputs == 0 ? 0 : 1;
-
-    // The request is the fixed part with the outputs after it.
-    std::vector<quint32> request(sizeof(xcb_randr_monitor_info_t) / 4 + size_t(outputs));
-    auto* const info = reinterpret_cast<xcb_randr_monitor_info_t*>(request.data());
+    owned(xcb_randr_query_version_reply(
+        connection(), xcb_randr_query_version(connection(), 1, 5), nullptr));
     const auto millimetres = [](int pixels) { return quint32(pixels * 254 / 960); }; // 96 dpi
-    info->name = atom(monitor.name.toUtf8());
-    info->primary = outputs > 0;
-    info->nOutput = quint16(outputs);
-    info->x = qint16(monitor.rectangle.x());
-    info->y = qint16(monitor.rectangle.y());
-    info->width = quint16(monitor.rectangle.width());
-    info->height = quint16(monitor.rectangle.height());
-    info->width_in_millimeters = millimetres(monitor.rectangle.width());
-    info->height_in_millimeters = millimetres(monitor.rectangle.height());
-    if (outputs)
-        request.back() = *xcb_randr_get_screen_resources_current_outputs(resources.get());
-    const auto cookie = xcb_randr_set_monitor_checked(connection(), screen().root, info);
-    if (owned(xcb_request_check(connection(), cookie)))
-        return Error::failed(
-            QStringLiteral("The server refuses the monitor %1.").arg(monitor.name));
-    return {};
+    const auto output = freeOutput(connection(), screen().root);
+    xcb_randr_monitor_info_t info {};
+    info.name = atom(monitor.name.toUtf8());
+    info.primary = output.has_value();
+    info.nOutput = output.has_value();
+    info.x = qint16(monitor.rectangle.x());
+    info.y = qint16(monitor.rectangle.y());
+    info.width = quint16(monitor.rectangle.width());
+    info.height = quint16(monitor.rectangle.height());
+    info.width_in_millimeters = millimetres(monitor.rectangle.width());
+    info.height_in_millimeters = millimetres(monitor.rectangle.height());
+    if (setMonitor(connection(), screen().root, info, output))
+        return {};
+    return Error::failed(QStringLiteral("The server refuses the monitor %1.").arg(monitor.name));
 }
 
 Result<void> XDisplay::removeMonitor(const QString& name)

@@ -34,7 +34,8 @@ const Event& as(const xcb_generic_event_t& event)
 
 bool Window::handleEvents()
 {
-    // The round trips of reacting may read further events, on which the descriptor stays silent.
+    // Again until nothing came: the round trips of reacting may have read events, and then the
+    // descriptor stays silent.
     while (m_open && handlePending()) { }
     xcb_flush(m_connection);
     return m_open && !xcb_connection_has_error(m_connection);
@@ -47,6 +48,8 @@ bool Window::handlePending()
         handle(*event);
         any = true;
     }
+    if (!any)
+        return false;
     if (m_damaged)
         paint();
     if (m_painted)
@@ -58,7 +61,7 @@ bool Window::handlePending()
         m_told = true;
         m_options.minimized = false; // From now on mapped means shown.
     }
-    return any;
+    return true;
 }
 
 void Window::handle(const xcb_generic_event_t& event)
