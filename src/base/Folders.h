@@ -6,13 +6,13 @@
 
 /// Where things are kept, as absolute paths without a closing slash. None of them need exist yet.
 struct Folders {
-    QString configuration; ///< The program's own, for what the user chose.
-    QString data; ///< The program's own, for what must last: history, statistics, sounds.
-    QString cache; ///< The program's own, for what can be made again.
-    QString pictures; ///< The user's.
-    QString downloads; ///< The user's.
-    QString runtime; ///< The program's own, for sockets; ensurePrivateFolder() before use.
-    QString temporary; ///< Shared with every other user.
+    QString configuration {}; ///< The program's own, for what the user chose.
+    QString data {}; ///< The program's own, for what must last: history, statistics, sounds.
+    QString cache {}; ///< The program's own, for what can be made again.
+    QString pictures {}; ///< The user's.
+    QString downloads {}; ///< The user's.
+    QString runtime {}; ///< The program's own, for sockets; ensurePrivateFolder() before use.
+    QString temporary {}; ///< Shared with every other user.
 
     /// Those of the user who runs the program, as the XDG variables and user-dirs.dirs have them.
     static Folders ofUser();
