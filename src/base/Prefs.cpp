@@ -57,11 +57,11 @@ Result<void> setAside(const QString& path)
 
 } // namespace
 
-Prefs::Prefs(const Folders& folders, QObject* parent)
-    : QObject(parent)
-    , m_folder(folders.configuration)
+Prefs::Prefs(const Folders& folders, Watch watched)
+    : m_folder(folders.configuration)
     , m_path(m_folder + u"/preferences.json"_s)
     , m_defaultFolder(folders.pictures + u"/Pixmallow"_s)
+    , m_watched(watched)
 {
     m_flushTimer.setSingleShot(true);
     m_flushTimer.setInterval(flushDelay);
@@ -77,7 +77,7 @@ Prefs::Prefs(const Folders& folders, QObject* parent)
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, rereadSoon);
 
     std::ignore = ensurePrivateFolder(m_folder); // The first write complains.
-    watch();
+    watchAgain();
     const auto content = readContent(m_path);
     const bool isDamaged = content && !*content;
     if (content && *content)
@@ -173,14 +173,16 @@ void Prefs::adopt(const QJsonObject& values)
 
 void Prefs::reread()
 {
-    watch(); // The watch ended with the file that was replaced.
+    watchAgain(); // The watch ended with the file that was replaced.
     const auto content = readContent(m_path);
     if (content && *content) // Otherwise an editor is at work: it will be heard of again.
         adopt(withUnsaved(**content));
 }
 
-void Prefs::watch()
+void Prefs::watchAgain()
 {
+    if (m_watched == Watch::Nothing)
+        return;
     for (const QString& path : {m_folder, m_path})
         if (QFileInfo::exists(path)) // Of one that does not, it would warn.
             m_watcher.addPath(path);
@@ -208,7 +210,7 @@ Result<void> Prefs::flush()
         return written;
     m_unsaved.clear();
     lock.unlock();
-    watch();
+    watchAgain();
     adopt(values);
     return {};
 }

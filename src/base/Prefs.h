@@ -28,7 +28,11 @@ class Prefs final : public QObject {
 public:
     static constexpr PrefKeys keys {};
 
-    explicit Prefs(const Folders& folders, QObject* parent = nullptr);
+    /// Whether the file is watched for what other processes write. A program that ends at once does
+    /// without: to end the watch takes the kernel 11 ms.
+    enum class Watch { File, Nothing };
+
+    explicit Prefs(const Folders& folders, Watch watched = Watch::File);
     ~Prefs() override; ///< Writes what is not yet written.
 
     static Prefs& shared(); ///< The one that install() was called on.
@@ -71,7 +75,7 @@ private:
     void store(const AnyPrefKey& key, const QJsonValue& value);
     void adopt(const QJsonObject& values);
     void reread();
-    void watch();
+    void watchAgain();
     QJsonObject withUnsaved(QJsonObject values) const;
     /// Of the file, if damaged the last known after moving it away. Only while holding the lock.
     Result<QJsonObject> recoveredContent() const;
@@ -79,6 +83,7 @@ private:
     const QString m_folder;
     const QString m_path;
     const QString m_defaultFolder;
+    const Watch m_watched;
     QVariantHash m_registered;
     QJsonObject m_values; ///< Of the file when it was last readable, and over them the unsaved.
     QHash<QString, QJsonValue> m_unsaved; ///< Undefined where a key is to be removed.

@@ -170,13 +170,19 @@ TEST_F(PrefsTest, announcesWhatReadsDifferentlyAndNothingElse)
         other.set(keys.delaySeconds, i);
         EXPECT_TRUE(eventually([&] { return prefs.get(keys.delaySeconds) == i; }));
     }
+    prefs.set(keys.historyMax, 9); // Not written yet when the other's is read.
+    other.set(keys.delaySeconds, 13);
+    EXPECT_TRUE(other.flush());
+    EXPECT_TRUE(eventually([&] { return other.get(keys.historyMax) == 9; }));
+    EXPECT_EQ(heard.count(u"historyMax"_s), 1);
+
     write(m_path, "{\"delaySec"); // An editor that writes in place, slowly.
     const QDeadlineTimer pause(100);
     EXPECT_TRUE(eventually([&] { return pause.hasExpired(); }));
-    EXPECT_EQ(prefs.get(keys.delaySeconds), 12);
-    write(m_path, "{\"delaySeconds\": 4, \"unknown\": 1}");
+    EXPECT_EQ(prefs.get(keys.delaySeconds), 13);
+    write(m_path, "{\"delaySeconds\": 4}");
     EXPECT_TRUE(eventually([&] { return prefs.get(keys.delaySeconds) == 4; }));
-    EXPECT_EQ(heard.size(), 5);
+    EXPECT_EQ(heard.count(u"delaySeconds"_s), 6);
     EXPECT_EQ(QDir(m_folders.configuration).entryList(QDir::Files).size(), 1);
 }
 
