@@ -27,6 +27,8 @@ struct Error {
 template <typename T>
 class [[nodiscard]] Result {
 public:
+    using Value = T;
+
     Result(T value)
         : m_state(std::move(value))
     {
@@ -52,6 +54,8 @@ private:
 template <>
 class [[nodiscard]] Result<void> {
 public:
+    using Value = void;
+
     Result() = default;
     Result(Error error)
         : m_error(std::move(error))
