@@ -4,10 +4,12 @@
 
 #include "base/AtomicFile.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLockFile>
+#include <QThread>
 
 #include <chrono>
 #include <tuple>
@@ -21,10 +23,23 @@ namespace {
 constexpr auto flushDelay = 100ms;
 // A rename and the lock beside it are several announcements.
 constexpr auto rereadDelay = 30ms;
-constexpr int lockPatience = 2000; // Milliseconds; a write takes a few.
+constexpr auto lockPatience = 3s;
 const QString lockName = u"/preferences.lock"_s;
 
 Prefs* installed = nullptr;
+
+/// Waits for other processes to finish their writing, which takes each a few milliseconds. The
+/// lock's own waiting sleeps 100 and more at a time.
+bool acquire(QLockFile& lock)
+{
+    const QDeadlineTimer deadline(lockPatience);
+    while (!lock.tryLock(0)) {
+        if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
+            return false;
+        QThread::msleep(3);
+    }
+    return true;
+}
 
 /// What a file holds; nothing if that is no JSON object, an error if it cannot be read.
 Result<std::optional<QJsonObject>> readContent(const QString& path)
@@ -83,7 +98,7 @@ Prefs::Prefs(const Folders& folders, Watch watched)
     if (content && *content)
         m_values = **content;
     QLockFile lock(m_folder + lockName);
-    if (isDamaged && lock.tryLock(lockPatience))
+    if (isDamaged && acquire(lock))
         if (const auto recovered = recoveredContent())
             m_values = *recovered;
 }
@@ -196,7 +211,7 @@ Result<void> Prefs::flush()
     if (const auto usable = ensurePrivateFolder(m_folder); !usable)
         return usable;
     QLockFile lock(m_folder + lockName);
-    if (!lock.tryLock(lockPatience))
+    if (!acquire(lock))
         return Error::failed(lock.error() == QLockFile::LockFailedError
                 ? u"Couldn't write “%1”: another program is writing it."_s.arg(m_path)
                 : u"Couldn't write “%1”: its folder takes no files."_s.arg(m_path));
