@@ -4,6 +4,10 @@
 
 #include <cstdint>
 
+/// How far ahead of a pixel to fetch others from memory. The processor does so by itself, but only
+/// to the end of a page.
+inline constexpr int pixelsAhead = 1024;
+
 /// The inner loops over one row of pixels, 0xAARRGGBB each. Outputs hold exactly what is said, with
 /// nothing written behind it.
 struct PixelRows {

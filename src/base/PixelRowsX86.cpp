@@ -21,6 +21,7 @@ void store(std::uint8_t* out, __m128i bytes)
 
 struct Plain {
     __m128i operator()(int x) const { return load(row + x); }
+    void fetch(int x) const { _mm_prefetch(row + x, _MM_HINT_T0); }
     Plain from(int x) const { return {row + x}; }
     void rgb(std::uint8_t* out, int width) const { portablePixelRows().rgb(row, out, width); }
     void rgba(std::uint8_t* out, int width) const { portablePixelRows().rgba(row, out, width); }
@@ -30,6 +31,7 @@ struct Plain {
 // The difference of two pixels has the same bytes as the difference of their reordered bytes.
 struct Difference {
     __m128i operator()(int x) const { return _mm_sub_epi8(load(row + x), load(above + x)); }
+    void fetch(int x) const { _mm_prefetch(row + x, _MM_HINT_T0); }
     Difference from(int x) const { return {row + x, above + x}; }
     void rgb(std::uint8_t* out, int width) const
     {
@@ -49,6 +51,7 @@ void writeRgb(Value value, std::uint8_t* out, int width)
     const __m128i order = _mm_setr_epi8(2, 1, 0, 6, 5, 4, 10, 9, 8, 14, 13, 12, -1, -1, -1, -1);
     int x = 0;
     for (; x + 16 <= width; x += 16, out += 48) { // Four times 12 bytes make three times 16.
+        value.fetch(x + pixelsAhead);
         const __m128i a = _mm_shuffle_epi8(value(x), order);
         const __m128i b = _mm_shuffle_epi8(value(x + 4), order);
         const __m128i c = _mm_shuffle_epi8(value(x + 8), order);

@@ -2,65 +2,113 @@
 // SPDX-License-Identifier: MIT
 #include "base/PngPalette.h"
 
+#include "base/PixelRows.h"
+
+#include <algorithm>
 #include <cstring>
 
 namespace {
 
-// How many pixels equal the first one. Screens are made of long runs, so two are compared at a
-// time.
-int runLength(const std::uint32_t* row, int width)
+// Screens are made of long runs of one colour, so pixels are compared with the one before by
+// eights. Where they differ, branches would mostly be guessed wrong: eight are looked up without
+// any.
+constexpr int stride = 8;
+
+bool allEqual(const std::uint32_t* pixels, std::uint32_t pixel)
 {
-    const std::uint64_t pair = row[0] * 0x1'0000'0001u;
-    int length = 1;
-    for (; length + 2 <= width; length += 2) {
-        std::uint64_t next;
-        std::memcpy(&next, row + length, sizeof next);
-        if (next != pair)
-            break;
-    }
-    return length + (length < width && row[length] == row[0]);
+    std::uint32_t different = 0;
+    for (int i = 0; i < stride; ++i)
+        different |= pixels[i] ^ pixel;
+    return different == 0;
 }
 
 } // namespace
 
 PngPalette::PngPalette(std::uint32_t ignored)
-    : m_ignored(ignored)
+    : m_slots(slotCount)
+    , m_ignored(ignored)
 {
     m_colours.reserve(most);
+    // Only colour 0 has its home in slot 0: no empty slot looks like the home of a colour.
+    m_slots[0].colour = ~0u;
+}
+
+std::size_t PngPalette::home(std::uint32_t colour)
+{
+    static_assert(slotCount == 1 << 13);
+    return colour * 2654435761u >> (32 - 13);
 }
 
 std::size_t PngPalette::find(std::uint32_t colour) const
 {
-    static_assert(8 * most == 1 << 11);
-    std::size_t slot = colour * 2654435761u >> (32 - 11);
+    std::size_t slot = home(colour);
     while (m_slots[slot].index >= 0 && m_slots[slot].colour != colour)
-        slot = (slot + 1) % m_slots.size();
+        slot = (slot + 1) % slotCount;
     return slot;
 }
 
-bool PngPalette::insert(std::uint32_t colour)
+void PngPalette::insert(std::uint32_t colour)
 {
     auto& slot = m_slots[find(colour)];
     if (slot.index >= 0)
-        return true;
-    if (m_colours.size() == most)
-        return false;
+        return;
+    m_overflowed = m_colours.size() == most;
+    if (m_overflowed)
+        return;
     slot = {colour, std::int32_t(m_colours.size())};
     m_colours.push_back(colour);
-    return true;
 }
 
 void PngPalette::add(const std::uint32_t* row, int width)
 {
-    for (int x = 0; x < width && !m_overflowed; x += runLength(row + x, width - x))
-        m_overflowed = !insert(row[x] | m_ignored);
+    int x = 0;
+    std::uint32_t last = ~row[0];
+    for (; x + stride <= width && !m_overflowed; x += stride) {
+        const std::uint32_t* pixels = row + x;
+        __builtin_prefetch(pixels + pixelsAhead);
+        if (allEqual(pixels, last))
+            continue;
+        std::uint32_t unknown = 0;
+        for (int i = 0; i < stride; ++i) {
+            const std::uint32_t colour = pixels[i] | m_ignored;
+            unknown |= m_slots[home(colour)].colour ^ colour;
+        }
+        for (int i = 0; unknown && i < stride && !m_overflowed; ++i)
+            insert(pixels[i] | m_ignored);
+        last = pixels[stride - 1];
+    }
+    for (; x < width && !m_overflowed; ++x)
+        insert(row[x] | m_ignored);
 }
 
 void PngPalette::indices(const std::uint32_t* row, std::uint8_t* out, int width) const
 {
-    for (int x = 0; x < width;) {
-        const int length = runLength(row + x, width - x);
-        std::memset(out + x, m_slots[find(row[x] | m_ignored)].index, std::size_t(length));
-        x += length;
+    const auto indexOf
+        = [this](std::uint32_t pixel) { return m_slots[find(pixel | m_ignored)].index; };
+    const std::uint32_t ignored = m_ignored;
+    const Slot* slots = m_slots.data();
+    int x = 0;
+    std::uint32_t last = ~row[0];
+    std::int32_t lastIndex = -1;
+    for (; x + stride <= width; x += stride) {
+        const std::uint32_t* pixels = row + x;
+        __builtin_prefetch(pixels + pixelsAhead);
+        if (allEqual(pixels, last)) {
+            std::memset(out + x, lastIndex, stride);
+            continue;
+        }
+        std::uint32_t elsewhere = 0;
+        for (int i = 0; i < stride; ++i) {
+            const std::uint32_t colour = pixels[i] | ignored;
+            const Slot& slot = slots[home(colour)];
+            out[x + i] = std::uint8_t(slot.index);
+            elsewhere |= slot.colour ^ colour;
+        }
+        for (int i = 0; elsewhere && i < stride; ++i)
+            out[x + i] = std::uint8_t(indexOf(pixels[i]));
+        last = pixels[stride - 1];
+        lastIndex = out[x + stride - 1];
     }
+    for (; x < width; ++x)
+        out[x] = std::uint8_t(indexOf(row[x]));
 }

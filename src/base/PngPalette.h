@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -29,11 +28,14 @@ private:
         std::uint32_t colour = 0;
         std::int32_t index = -1;
     };
+    // Sparse, so that hardly any colour is found elsewhere than at home.
+    static constexpr std::size_t slotCount = 32 * most;
 
+    static std::size_t home(std::uint32_t colour);
     std::size_t find(std::uint32_t colour) const;
-    bool insert(std::uint32_t colour);
+    void insert(std::uint32_t colour);
 
-    std::array<Slot, 8 * most> m_slots; // Sparse, so that a colour is mostly found at first sight.
+    std::vector<Slot> m_slots;
     std::vector<std::uint32_t> m_colours;
     std::uint32_t m_ignored;
     bool m_overflowed = false;

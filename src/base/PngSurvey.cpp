@@ -9,8 +9,9 @@
 
 std::vector<RowRange> sampleOf(int height)
 {
+    // Fewer than eight rows would not let the deflater find what repeats from row to row.
     constexpr int slices = 8;
-    const int rows = std::max(4, height / (16 * slices));
+    const int rows = std::max(8, height / (32 * slices));
     if (height <= slices * rows)
         return {{0, height}};
     std::vector<RowRange> sample;

@@ -14,7 +14,8 @@ struct RowRange {
     int end = 0;
 };
 
-/// Slices spread over the height that together are about a sixteenth of it, all of a low picture.
+/// Slices spread over the height, together a thirty-second of it or a little more; all of a low
+/// picture.
 std::vector<RowRange> sampleOf(int height);
 
 /// What a picture is made of, found in as few of its rows as tell it for sure.
