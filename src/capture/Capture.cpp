@@ -82,11 +82,15 @@ QList<Window> Capture::regionCandidates(
     return windows;
 }
 
-std::optional<Window> Capture::frontWindow(
-    QList<Window> windows, const Order& order, qint64 processId, const QList<Display>& displays)
+std::optional<Window> Capture::frontWindow(QList<Window> windows, const Order& order,
+    const Application& application, const QList<Display>& displays)
 {
+    const auto isOfApplication = [&application](const Window& window) {
+        return application.processId ? window.application.processId == application.processId
+                                     : window.application.id == application.id;
+    };
     windows.removeIf([&](const Window& window) {
-        return !isOrdinary(window) || window.application.processId != processId
+        return !isOrdinary(window) || !isOfApplication(window)
             || sizeInPoints(window, displays).width() <= smallestExtent;
     });
     sortFrontToBack(windows, order);
@@ -107,11 +111,19 @@ QRect Capture::cropRectangle(QRectF selection, QSizeF screenSize, QSize imageSiz
     return QRect(first, end - QPoint(1, 1));
 }
 
-QString Capture::applicationAt(
-    QPoint native, const QList<Window>& sortedCandidates, const QString& otherwise)
+Result<Shot> Capture::crop(const FrozenScreen& screen, QRectF selection,
+    const QList<Window>& sortedCandidates, const QString& otherwise)
 {
-    for (const auto& window : sortedCandidates)
-        if (window.frame.contains(native))
-            return window.application.name;
-    return otherwise;
+    const QSize pixels = screen.image.size();
+    const QSizeF points = screen.display.points.size();
+    const QRect rect = cropRectangle(selection, points, pixels) & QRect({}, pixels);
+    if (rect.isEmpty())
+        return Error::cancelled();
+
+    const QPoint centre = screen.display.native.topLeft() + rect.center();
+    const auto under = std::find_if(sortedCandidates.begin(), sortedCandidates.end(),
+        [centre](const Window& window) { return window.frame.contains(centre); });
+    const QString app = under == sortedCandidates.end() ? otherwise : under->application.name;
+    return Shot {screen.image.copy(rect), pixels.width() / points.width(), app,
+        selection.translated(screen.display.points.topLeft())};
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "capture/Region.h"
+#include "capture/Shot.h"
 #include "platform/ScreenCapture.h"
 
 #include <optional>
@@ -38,16 +40,19 @@ QList<Window> regionCandidates(
     QList<Window> windows, const Order& order, const QList<Display>& displays);
 
 /// The front-most window of a program: ordinary, on screen, wider than 40 points and of any height.
-std::optional<Window> frontWindow(
-    QList<Window> windows, const Order& order, qint64 processId, const QList<Display>& displays);
+/// A program whose process is unknown is recognised by its id.
+std::optional<Window> frontWindow(QList<Window> windows, const Order& order,
+    const Application& application, const QList<Display>& displays);
 
 /// The pixels of a frozen image that a selection covers, widened to whole ones.
 /// @param selection points of the screen, origin at its bottom left.
 /// @param screenSize points.
 QRect cropRectangle(QRectF selection, QSizeF screenSize, QSize imageSize);
 
-/// The name of the program whose window is the first under a native position, else `otherwise`.
-QString applicationAt(
-    QPoint native, const QList<Window>& sortedCandidates, const QString& otherwise);
+/// What was selected on a frozen screen, named after the first candidate under its centre, else
+/// `otherwise`. Cancelled when the selection lies outside the screen.
+/// @param selection points of the screen, origin at its bottom left.
+Result<Shot> crop(const FrozenScreen& screen, QRectF selection,
+    const QList<Window>& sortedCandidates, const QString& otherwise);
 
 } // namespace Capture

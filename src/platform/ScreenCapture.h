@@ -36,7 +36,8 @@ struct Window {
 enum class Pointer { Hidden, Drawn };
 enum class WindowShadow { Dropped, Kept };
 
-/// Those of this program, in any of its processes: no menu, toast or panel of ours is ever captured.
+/// Those of this program, in any of its processes: no menu, toast or panel of ours is ever
+/// captured.
 QList<WindowId> ownWindows(const QList<Window>& windows);
 
 /// A picture that stays as it was at one instant, held by whoever reads it.

@@ -48,10 +48,12 @@ TEST(CaptureTest, offersOnlyOrdinaryForeignWindowsLargerThanFortyPoints)
     // A window capture does not mind the height.
     const auto front = Capture::frontWindow(
         {window(1, {0, 0, 900, 900}, 2), window(2, {0, 0, 80, 90}, 1), window(3, {0, 0, 90, 9}, 1)},
-        {{1, 0}, {2, 1}, {3, 2}}, 1, {sharp, plain});
+        {{1, 0}, {2, 1}, {3, 2}}, {u"other"_s, {}, 1}, {sharp, plain});
     ASSERT_TRUE(front);
     EXPECT_EQ(front->id, 3u);
-    EXPECT_FALSE(Capture::frontWindow({window(1, {0, 0, 900, 900}, 2)}, {}, 1, {sharp}));
+    const Window unknown = window(1, {0, 0, 900, 900}, 0, u"Remote"_s);
+    EXPECT_FALSE(Capture::frontWindow({unknown}, {}, {u"remote"_s, {}, 1}, {sharp}));
+    EXPECT_TRUE(Capture::frontWindow({unknown}, {}, {u"remote"_s, {}, 0}, {sharp}));
 }
 
 TEST(CaptureTest, convertsBetweenPixelsAndPoints)
@@ -94,11 +96,25 @@ TEST(CaptureTest, cropsExactlyTheDevicePixelsOfASelection)
         }
 }
 
-TEST(CaptureTest, namesTheProgramUnderTheCentre)
+TEST(CaptureTest, cutsTheSelectionOutAndNamesTheProgramUnderItsCentre)
 {
+    QImage image(sharp.native.size(), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    image.setPixelColor(200, 1600 - 300, Qt::white);
+    const FrozenScreen screen {sharp, image};
     const QList<Window> sorted {
-        window(1, {0, 0, 100, 100}, 1, u"Front"_s), window(2, {0, 0, 300, 300}, 2, u"Back"_s)};
-    EXPECT_EQ(Capture::applicationAt({99, 99}, sorted, u"Last"_s), u"Front"_s);
-    EXPECT_EQ(Capture::applicationAt({100, 99}, sorted, u"Last"_s), u"Back"_s);
-    EXPECT_EQ(Capture::applicationAt({400, 99}, sorted, u"Last"_s), u"Last"_s);
+        window(1, {0, 1300, 202, 100}, 1, u"Front"_s), window(2, {0, 0, 300, 1600}, 2, u"Back"_s)};
+    const auto shot = Capture::crop(screen, {100, 148, 1, 2}, sorted, u"Last"_s);
+    ASSERT_TRUE(shot);
+    EXPECT_EQ(shot->image.size(), QSize(2, 4));
+    EXPECT_EQ(shot->image.pixelColor(0, 0), QColor(Qt::white));
+    EXPECT_EQ(shot->scale, 2);
+    EXPECT_EQ(shot->area, QRectF(100, 148, 1, 2));
+    EXPECT_EQ(shot->app, u"Front"_s);
+    EXPECT_EQ(Capture::crop(screen, {110, 148, 2, 2}, sorted, u"Last"_s)->app, u"Back"_s);
+    EXPECT_EQ(Capture::crop(screen, {500, 148, 2, 2}, sorted, u"Last"_s)->app, u"Last"_s);
+    EXPECT_FALSE(Capture::crop(screen, {1280, 0, 50, 50}, sorted, {}));
+
+    const FrozenScreen right {plain, QImage(plain.native.size(), QImage::Format_RGB32)};
+    EXPECT_EQ(Capture::crop(right, {1, 2, 30, 40}, {}, {})->area, QRectF(2561, 2, 30, 40));
 }

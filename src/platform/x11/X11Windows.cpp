@@ -262,13 +262,24 @@ QList<Window> X11Windows::list()
     std::stable_partition(
         shown.begin(), shown.end(), [](const X11Window& window) { return window.viewable; });
 
+    return describe(shown);
+}
+
+std::optional<Window> X11Windows::find(xcb_window_t window)
+{
+    const auto located = locate(std::array {window});
+    return located[0].topLevel ? std::optional(describe(located).first()) : std::nullopt;
+}
+
+QList<Window> X11Windows::describe(std::span<const X11Window> windows)
+{
     std::vector<Description> asked;
-    for (const auto& window : shown)
+    for (const auto& window : windows)
         asked.emplace_back(*m_connection, window.client);
-    QList<Window> windows;
-    for (std::size_t i = 0; i < shown.size(); ++i)
-        windows.push_back(described(*m_connection, m_desktopEntries, shown[i], asked[i]));
-    return windows;
+    QList<Window> result;
+    for (std::size_t i = 0; i < windows.size(); ++i)
+        result.push_back(described(*m_connection, m_desktopEntries, windows[i], asked[i]));
+    return result;
 }
 
 QHash<WindowId, int> X11Windows::frontToBackOrder()

@@ -8,6 +8,7 @@
 
 #include <QMargins>
 
+#include <optional>
 #include <span>
 
 /// The property, a CARDINAL of 1, by which windows of this program are known to every process of
@@ -45,6 +46,9 @@ public:
     QList<Window> list();
     QHash<WindowId, int> frontToBackOrder();
 
+    /// One window; none when it is gone.
+    std::optional<Window> find(xcb_window_t window);
+
     /// Children of the root window, front first.
     std::vector<xcb_window_t> stack() const;
 
@@ -57,6 +61,7 @@ private:
         QHash<WindowId, int> positions;
     };
     Stacked stacked();
+    QList<Window> describe(std::span<const X11Window> windows);
     std::vector<xcb_window_t> clients();
     std::vector<xcb_window_t> topLevels(std::span<const xcb_window_t> windows) const;
 
