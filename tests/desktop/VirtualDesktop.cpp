@@ -219,8 +219,8 @@ Result<void> VirtualDesktop::startWindowManager()
     // Its window of _NET_SUPPORTING_WM_CHECK comes too early: a client that maps then is taken for
     // one that was there before and gets no focus. This hook runs when it is ready.
     const QString ready = path(u"window-manager-ready"_s);
-    const auto manager
-        = startService(u"openbox"_s, {u"--sm-disable"_s, u"--startup"_s, u"touch "_s + ready});
+    const auto manager = startService(
+        u"openbox"_s, {u"--sm-disable"_s, u"--startup"_s, u"touch '%1'"_s.arg(ready)});
     if (!manager)
         return manager.error();
     return waitUntilReady(**manager, [ready] { return QFile::exists(ready); });

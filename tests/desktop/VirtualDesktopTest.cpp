@@ -205,10 +205,11 @@ TEST_F(DesktopLifeTest, nothingOutlivesTheProgramThatStartedIt)
             EXPECT_TRUE(desktop.waitForEnd());
             EXPECT_EQ(desktop.exitCode(), 128 + SIGTERM);
         } else {
-            ::kill(pid_t(desktop.pid()), SIGKILL);
+            ::kill(pid_t(desktop.pid()), SIGSTOP);
             if (end == End::KilledWithAllItStarted)
                 for (const pid_t process : processes)
                     ::kill(process, SIGKILL);
+            ::kill(pid_t(desktop.pid()), SIGKILL);
         }
         EXPECT_TRUE(waitFor([&] { return processesIn(home).empty(); }));
         EXPECT_TRUE(waitFor([&] { return isTidy(display); }));

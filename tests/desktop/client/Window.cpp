@@ -3,7 +3,6 @@
 #include "tests/desktop/client/Window.h"
 
 #include <cstdio>
-#include <cstring>
 #include <unistd.h>
 #include <xcb/shape.h>
 
