@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <xcb/composite.h>
 
@@ -197,8 +198,10 @@ Result<void> VirtualDesktop::startServer()
 
 Result<void> VirtualDesktop::startBus()
 {
-    const QString configuration = QString::fromLatin1(busConfiguration).arg(path(u"runtime/bus"_s));
-    if (const auto written = write(u"bus.conf"_s, configuration.toUtf8()); !written)
+    const QByteArray socket = QUrl::toPercentEncoding(path(u"runtime/bus"_s), "/");
+    const QString configuration
+        = QString::fromLatin1(busConfiguration).arg(QString::fromLatin1(socket));
+    if (const auto written = write(u"bus.conf"_s, configuration.toLatin1()); !written)
         return written;
     const auto bus = startService(u"dbus-daemon"_s,
         {u"--config-file="_s + path(u"bus.conf"_s), u"--nofork"_s, u"--nosyslog"_s,

@@ -185,13 +185,13 @@ TEST_F(DesktopLifeTest, saysWhatIsMissingAndWhatAProgramSaidThatFailed)
 TEST_F(DesktopLifeTest, nothingOutlivesTheProgramThatStartedIt)
 {
     const QString runner = QCoreApplication::applicationDirPath() + u"/virtual-desktop"_s;
-    const QString script = u"read word; echo $word $DISPLAY $HOME; (sleep 600 &); sleep 600"_s;
+    const QString script = u"read word; echo \"$word|$DISPLAY|$HOME\"; (sleep 600 &); sleep 600"_s;
     enum class End { Terminated, Killed, KilledWithAllItStarted };
     for (const End end : {End::Terminated, End::Killed, End::KilledWithAllItStarted}) {
         Client desktop(QProcessEnvironment::systemEnvironment());
         ASSERT_TRUE(desktop.start(runner, {u"--clients"_s, u"--"_s, u"sh"_s, u"-c"_s, script}));
         desktop.send("started");
-        const QByteArrayList said = desktop.waitForLine("started ").split(' ');
+        const QByteArrayList said = desktop.waitForLine("started|").split('|');
         ASSERT_EQ(said.size(), 3) << desktop.errors().toStdString();
         const QString display = QString::fromUtf8(said[1]), home = QString::fromUtf8(said[2]);
         std::vector<pid_t> processes;
