@@ -93,19 +93,29 @@ QImage wallpaper(QSize size)
     return picture;
 }
 
-/// What holds with and without a compositing manager.
-void leavesOwnWindowsOut(const VirtualDesktop& desktop, XDisplay& display)
+/// Paints the root window as desktops without a wallpaper do: nothing tells of it.
+void setRootColour(const XDisplay& display, std::uint32_t colour)
 {
-    display.setRootPicture(wallpaper({1280, 800}));
-    const auto below = openWindow(
-        desktop, {u"--pattern"_s, u"3"_s, u"--geometry"_s, u"200,150,500x400"_s, u"--shaped"_s,
+    xcb_connection_t* xcb = display.connection();
+    const xcb_window_t root = display.screen().root;
+    xcb_delete_property(xcb, root, display.atom("_XROOTPMAP_ID"));
+    xcb_change_window_attributes(xcb, root, XCB_CW_BACK_PIXEL, &colour);
+    xcb_clear_area(xcb, 0, root, 0, 0, 0, 0);
+    xcb_flush(xcb);
+}
+
+/// What holds with and without a compositing manager.
+void leavesOwnWindowsOut(const VirtualDesktop& desktop)
+{
+    const auto below = openWindow(desktop,
+        {u"--pattern"_s, u"3"_s, u"--geometry"_s, u"200,150,500x400"_s, u"--shaped"_s,
             u"--override-redirect"_s});
     const auto translucent = openWindow(desktop,
         {u"--pattern"_s, u"4"_s, u"--geometry"_s, u"350,250,300x300"_s, u"--argb"_s,
             u"--override-redirect"_s});
     auto resident = platform(Residency::Resident);
     const QRect everything(0, 0, 1280, 800);
-    const QImage before = opaque(display.rootPixels());
+    const QImage before = opaque(desktop.rootPixels());
     const auto managed = openWindow(
         desktop, {u"--own"_s, u"--geometry"_s, u"100,100,400x300"_s, u"--colour"_s, u"#ff0000"_s});
     const auto card = openWindow(
@@ -115,7 +125,7 @@ void leavesOwnWindowsOut(const VirtualDesktop& desktop, XDisplay& display)
     ASSERT_TRUE(windows);
     const auto own = ownWindows(*windows);
     EXPECT_THAT(own, testing::UnorderedElementsAre(managed.id, card.id));
-    EXPECT_NE(opaque(display.rootPixels()), before);
+    EXPECT_NE(opaque(desktop.rootPixels()), before);
     EXPECT_EQ(area(resident, everything, own), before);
     EXPECT_EQ(area(resident, QRect(450, 320, 101, 57), own), before.copy(450, 320, 101, 57));
     for (const auto& each : {&below, &translucent, &managed, &card})
@@ -275,12 +285,17 @@ TEST_F(X11CaptureTest, keepsAlphaShapeAndShadowApart)
 
 TEST_F(X11CaptureTest, leavesOwnWindowsOut)
 {
-    leavesOwnWindowsOut(desktop(), desktop());
+    setRootColour(desktop(), 0x336699);
+    ASSERT_TRUE(desktop().waitForPixel({1270, 790}, 0xff336699));
+    leavesOwnWindowsOut(desktop());
+    desktop().setRootPicture(wallpaper({1280, 800}));
+    leavesOwnWindowsOut(desktop());
 }
 
 TEST_F(CompositedCaptureTest, leavesOwnWindowsOut)
 {
-    leavesOwnWindowsOut(desktop(), desktop());
+    desktop().setRootPicture(wallpaper({1280, 800}));
+    leavesOwnWindowsOut(desktop());
 }
 
 TEST_F(X11CaptureTest, failsWithASentenceWhenThereIsNothingToCapture)

@@ -110,14 +110,13 @@ public:
     void background()
     {
         xcb_xfixes_set_picture_clip_region(m_xcb, m_target, m_holes, 0, 0);
-        constexpr xcb_render_color_t black {0, 0, 0, 0xffff};
-        const auto all = rectangle(QRect({}, m_area.size()));
-        xcb_render_fill_rectangles(m_xcb, XCB_RENDER_PICT_OP_SRC, m_target, black, 1, &all);
         const auto wallpaper
             = m_connection.words(m_connection.property(m_connection.root(), "_XROOTPMAP_ID"));
         if (!wallpaper.empty())
             composite(wallpaper[0], m_formats.opaque, QRect({}, m_connection.rootSize()),
                 XCB_RENDER_PICT_OP_SRC, ~0u);
+        else
+            bareBackground();
     }
 
     void layer(const Layer& layer)
@@ -143,6 +142,28 @@ public:
     }
 
 private:
+    /// A root window does not tell its background. But a child can borrow it, and a child that is
+    /// redirected by hand is never seen: the server paints it off screen only.
+    void bareBackground()
+    {
+        const xcb_window_t window = xcb_generate_id(m_xcb);
+        const std::uint32_t values[] = {XCB_BACK_PIXMAP_PARENT_RELATIVE, 1};
+        const auto at = rectangle(m_area);
+        xcb_create_window(m_xcb, XCB_COPY_FROM_PARENT, window, m_connection.root(), at.x, at.y,
+            at.width, at.height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+            XCB_CW_BACK_PIXMAP | XCB_CW_OVERRIDE_REDIRECT, values);
+        const std::uint32_t below = XCB_STACK_MODE_BELOW;
+        xcb_configure_window(m_xcb, window, XCB_CONFIG_WINDOW_STACK_MODE, &below);
+        // Refused where a compositing manager has redirected all windows by hand; just as good.
+        xcb_composite_redirect_window(m_xcb, window, XCB_COMPOSITE_REDIRECT_MANUAL);
+        xcb_map_window(m_xcb, window);
+        const xcb_pixmap_t pixels = xcb_generate_id(m_xcb);
+        xcb_composite_name_window_pixmap(m_xcb, window, pixels);
+        composite(pixels, m_formats.opaque, m_area, XCB_RENDER_PICT_OP_SRC, ~0u);
+        xcb_free_pixmap(m_xcb, pixels);
+        xcb_destroy_window(m_xcb, window);
+    }
+
     void composite(xcb_pixmap_t pixels, xcb_render_pictformat_t format, QRect rectOnRoot,
         std::uint8_t operation, std::uint32_t opacity)
     {
