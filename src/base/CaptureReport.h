@@ -15,11 +15,11 @@ struct CaptureReport {
     };
 
     Outcome outcome = Outcome::Cancelled;
-    QString reason; ///< A sentence; also what was not done of a capture that is done.
-    QString path; ///< Absolute, of the saved file; empty when none was saved.
-    QSize size; ///< Device pixels.
+    QString reason {}; ///< A sentence; also what was not done of a capture that is done.
+    QString path {}; ///< Absolute, of the saved file; empty when none was saved.
+    QSize size {}; ///< Device pixels.
     double scale = 1; ///< Device pixels per point.
-    QString app; ///< The program it shows.
-    QString historyId; ///< Empty when it is in no history.
-    QString text; ///< What was recognised, of a text capture.
+    QString app {}; ///< The program it shows.
+    QString historyId {}; ///< Empty when it is in no history.
+    QString text {}; ///< What was recognised, of a text capture.
 };

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "base/Control.h"
+
+#include <QJsonDocument>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String accepted("accepted");
+
+struct OutcomeInfo {
+    CaptureReport::Outcome outcome;
+    QLatin1String key;
+    int exitCode;
+};
+
+constexpr std::array<OutcomeInfo, 4> outcomes {{
+    {CaptureReport::Outcome::Done, QLatin1String("done"), 0},
+    {CaptureReport::Outcome::Cancelled, QLatin1String("cancelled"), 1},
+    {CaptureReport::Outcome::Failed, QLatin1String("failed"), 2},
+    {CaptureReport::Outcome::Busy, QLatin1String("busy"), 3},
+}};
+
+const OutcomeInfo& infoOf(CaptureReport::Outcome outcome)
+{
+    return *std::find_if(outcomes.begin(), outcomes.end(),
+        [outcome](const OutcomeInfo& info) { return info.outcome == outcome; });
+}
+
+QByteArray lineOf(const QJsonObject& object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+}
+
+Result<QJsonObject> objectFrom(const QByteArray& line)
+{
+    QJsonParseError error;
+    const auto document = QJsonDocument::fromJson(line, &error);
+    if (error.error != QJsonParseError::NoError)
+        return Error::failed(u"The line is not JSON: %1."_s.arg(error.errorString()));
+    if (!document.isObject())
+        return Error::failed(u"The line is not a JSON object."_s);
+    return document.object();
+}
+
+/// As much of a value as fits a message.
+QString quoted(const QJsonValue& value)
+{
+    return value.isString() ? u"“%1”"_s.arg(value.toString().left(40)) : u"that is no text"_s;
+}
+
+CaptureReport reportFrom(const QJsonObject& object, CaptureReport::Outcome outcome)
+{
+    return {
+        .outcome = outcome,
+        .reason = object[u"reason"].toString(),
+        .path = object[u"path"].toString(),
+        .size = {object[u"width"].toInt(), object[u"height"].toInt()},
+        .scale = object[u"scale"].toDouble(1),
+        .app = object[u"app"].toString(),
+        .historyId = object[u"historyId"].toString(),
+        .text = object[u"text"].toString(),
+    };
+}
+
+struct RequestWriter {
+    QJsonObject operator()(Control::ShowPanel) const { return {{u"command"_s, u"panel"_s}}; }
+    QJsonObject operator()(Control::Quit) const { return {{u"command"_s, u"quit"_s}}; }
+    QJsonObject operator()(Control::Capture capture) const
+    {
+        return {{u"command"_s, u"capture"_s}, {u"kind"_s, infoOf(capture.kind).key},
+            {u"wait"_s, capture.wait}};
+    }
+};
+
+struct AnswerWriter {
+    QJsonObject operator()(Control::Accepted) const { return {{u"outcome"_s, accepted}}; }
+    QJsonObject operator()(const CaptureReport& report) const { return Control::toJson(report); }
+};
+
+} // namespace
+
+QByteArray Control::toLine(const Request& request)
+{
+    return lineOf(std::visit(RequestWriter(), request));
+}
+
+QByteArray Control::toLine(const Answer& answer)
+{
+    const QByteArray line = lineOf(std::visit(AnswerWriter(), answer));
+    if (line.size() - 1 <= longestAnswer)
+        return line;
+    return lineOf(toJson({.outcome = CaptureReport::Outcome::Failed,
+        .reason = u"The answer is too long to be sent."_s}));
+}
+
+Result<Control::Request> Control::requestFrom(const QByteArray& line)
+{
+    const auto object = objectFrom(line);
+    if (!object)
+        return object.error();
+    const auto command = object->value(u"command");
+    if (command == u"panel"_s)
+        return Request(ShowPanel {});
+    if (command == u"quit"_s)
+        return Request(Quit {});
+    if (command != u"capture"_s)
+        return Error::failed(u"There is no command %1."_s.arg(quoted(command)));
+    const auto kind = object->value(u"kind");
+    const auto wait = object->value(u"wait");
+    const auto known = captureKind(kind.toString());
+    if (!known)
+        return Error::failed(u"There is no capture %1."_s.arg(quoted(kind)));
+    if (!wait.isUndefined() && !wait.isBool())
+        return Error::failed(u"“wait” is either true or false."_s);
+    return Request(Capture {*known, wait.toBool()});
+}
+
+Result<Control::Answer> Control::answerFrom(const QByteArray& line)
+{
+    const auto object = objectFrom(line);
+    if (!object)
+        return object.error();
+    const QString outcome = object->value(u"outcome").toString();
+    if (outcome == accepted)
+        return Answer(Accepted {});
+    for (const auto& info : outcomes)
+        if (outcome == info.key)
+            return Answer(reportFrom(*object, info.outcome));
+    return Error::failed(u"The line has no known outcome."_s);
+}
+
+QJsonObject Control::toJson(const CaptureReport& report)
+{
+    QJsonObject object {{u"outcome"_s, infoOf(report.outcome).key}};
+    const auto add = [&object](const QString& key, const QString& text) {
+        if (!text.isEmpty())
+            object.insert(key, text);
+    };
+    add(u"path"_s, report.path);
+    if (!report.size.isEmpty()) {
+        object.insert(u"width"_s, report.size.width());
+        object.insert(u"height"_s, report.size.height());
+        object.insert(u"scale"_s, report.scale);
+    }
+    add(u"app"_s, report.app);
+    add(u"historyId"_s, report.historyId);
+    add(u"text"_s, report.text);
+    add(u"reason"_s, report.reason);
+    return object;
+}
+
+int Control::exitCode(const CaptureReport& report)
+{
+    return infoOf(report.outcome).exitCode;
+}
+
+QString Control::socketPath(const Folders& folders)
+{
+    return folders.runtime + u"/control"_s;
+}

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/CaptureKind.h"
+#include "base/CaptureReport.h"
+#include "base/Folders.h"
+
+#include <QJsonObject>
+
+#include <variant>
+
+/// How other programs of the user talk to the resident one: they connect to a socket, send one
+/// request and read one answer. Each is a line of UTF-8 that holds a JSON object. Members that are
+/// not known are ignored, so that either side may be the newer one.
+namespace Control {
+
+struct ShowPanel { };
+struct Capture {
+    CaptureKind kind = CaptureKind::Region;
+    bool wait = false; ///< The answer comes when the capture has ended.
+};
+struct Quit { };
+using Request = std::variant<ShowPanel, Capture, Quit>;
+
+/// What was asked for has begun.
+struct Accepted { };
+/// A request that cannot be followed is answered by a report of its failure.
+using Answer = std::variant<Accepted, CaptureReport>;
+
+/// Lengths of lines in bytes, without the newline. Recognised text may be long.
+inline constexpr qsizetype longestRequest = 64 * 1024;
+inline constexpr qsizetype longestAnswer = 8 * 1024 * 1024;
+
+/// With the newline. An answer that is too long becomes a failure that says so.
+QByteArray toLine(const Request& request);
+QByteArray toLine(const Answer& answer);
+
+/// From a line without its newline; an error is a sentence for the other side or the user.
+Result<Request> requestFrom(const QByteArray& line);
+Result<Answer> answerFrom(const QByteArray& line);
+
+/// {"outcome":"done","path":…,"width":…,"height":…,"scale":…,"app":…,"historyId":…,"text":…,
+/// "reason":…}; what is empty is left out.
+QJsonObject toJson(const CaptureReport& report);
+
+/// What a program that waited for the report ends with: 0 done, 1 cancelled, 2 failed, 3 busy.
+int exitCode(const CaptureReport& report);
+
+/// In the runtime folder, which must be private.
+QString socketPath(const Folders& folders);
+
+} // namespace Control
