@@ -105,6 +105,41 @@ Result<Request> parseList(const QStringList& words)
             parser.isSet(u"json"_s)});
 }
 
+Result<Request> parseCapture(const QStringList& words)
+{
+    QCommandLineParser parser;
+    const QList<QCommandLineOption> options {
+        QCommandLineOption(u"wait"_s), QCommandLineOption(u"json"_s)};
+    if (const auto wrong = parse(parser, words, options, 1))
+        return *wrong;
+    const QString word = parser.positionalArguments().value(0);
+    if (const auto kind = captureKind(word))
+        return Request(CaptureRequest {*kind, parser.isSet(u"wait"_s), parser.isSet(u"json"_s)});
+    QStringList kinds;
+    for (const auto& info : captureKinds)
+        kinds.push_back(info.key);
+    return Error::failed(u"'capture' takes one of %1%2."_s.arg(
+        kinds.join(u", "_s), word.isEmpty() ? QString() : u", not '%1'"_s.arg(word)));
+}
+
+Result<Request> parseQuit(const QStringList& words)
+{
+    QCommandLineParser parser;
+    if (const auto wrong = parse(parser, words, {}, 0))
+        return *wrong;
+    return Request(QuitRequest {});
+}
+
+Result<Request> parseLaunch(const QStringList& words)
+{
+    QCommandLineParser parser;
+    const QList<QCommandLineOption> options {
+        QCommandLineOption(u"replace"_s), QCommandLineOption(u"background"_s)};
+    if (const auto wrong = parse(parser, words, options, 0))
+        return *wrong;
+    return Request(LaunchRequest {words});
+}
+
 } // namespace
 
 Result<Request> parseArguments(const QStringList& arguments)
@@ -120,8 +155,12 @@ Result<Request> parseArguments(const QStringList& arguments)
         return parseShot(rest);
     if (command == u"list"_s)
         return parseList(rest);
-    if (command.isEmpty())
-        return Error::failed(u"No command given."_s);
+    if (command == u"capture"_s)
+        return parseCapture(rest);
+    if (command == u"quit"_s)
+        return parseQuit(rest);
+    if (command.isEmpty() || command.startsWith(u'-'))
+        return parseLaunch(arguments);
     return Error::failed(u"Unknown command '%1'."_s.arg(command));
 }
 
@@ -141,10 +180,26 @@ QString helpText()
     return uR"(Pixmallow takes screenshots.
 
 usage:
+  pixmallow [--replace] [--background]
+  pixmallow capture KIND [--wait] [--json]
+  pixmallow quit
   pixmallow shot [--output FILE|-] [--screen N | --window ID | --area X,Y,WxH]
                  [--cursor] [--shadow] [--json]
   pixmallow list screens|windows [--json]
   pixmallow --version | --help
+
+Without a command Pixmallow starts, stays in the background and opens its panel;
+if it runs already, it opens the panel of the one that does.
+  --replace      end the one that runs and take its place
+  --background   do not open the panel
+
+capture  Begins a capture as its shortcut would, and starts Pixmallow if it does
+       not run. KIND is region, window, screen, delayed or text.
+  --wait         return when the capture has ended, and print the path of the
+                 file, or the text
+  --json         print how it ended and what there is to know about it
+
+quit   Ends Pixmallow, if it runs.
 
 shot   Writes a picture of the whole desktop to a PNG file and nothing else: no
        history, no clipboard, no window. Made for scripts.
@@ -159,6 +214,7 @@ shot   Writes a picture of the whole desktop to a PNG file and nothing else: no
 
 list   Prints the screens, or the windows on screen with the front-most first.
 
-Exit code: 0 done, 2 failed, 64 wrong arguments.
+Exit code: 0 done, 1 cancelled by the user, 2 failed, 3 another capture is
+running, 64 wrong arguments.
 )"_s;
 }

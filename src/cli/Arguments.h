@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/CaptureKind.h"
 #include "base/Result.h"
 
 #include <QRect>
@@ -34,10 +35,23 @@ struct ListRequest {
     bool json = false;
 };
 
+struct CaptureRequest {
+    CaptureKind kind = CaptureKind::Region;
+    bool wait = false; ///< For the end of the capture.
+    bool json = false;
+};
+
+/// Becoming the resident program, with the options it is given.
+struct LaunchRequest {
+    QStringList options;
+};
+
+struct QuitRequest { };
 struct HelpRequest { };
 struct VersionRequest { };
 
-using Request = std::variant<ShotRequest, ListRequest, HelpRequest, VersionRequest>;
+using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, LaunchRequest, QuitRequest,
+    HelpRequest, VersionRequest>;
 
 /// What the words behind the program's name ask for, or one line that says what is wrong with them.
 Result<Request> parseArguments(const QStringList& arguments);

@@ -9,3 +9,13 @@ Result<void> runShot(const ShotRequest& request);
 
 /// Prints screens or windows.
 Result<void> runList(const ListRequest& request);
+
+/// Asks the resident program for a capture, starting that program if none runs. Prints what came of
+/// it and returns the exit code for that.
+Result<int> runCapture(const CaptureRequest& request);
+
+/// Becomes the resident program. Returns only if that fails.
+Error runLaunch(const LaunchRequest& request);
+
+/// Ends the resident program; done as well if none runs.
+Result<void> runQuit();

@@ -27,6 +27,11 @@ Result<void> print(const QJsonValue& value)
     return print(document.toJson(QJsonDocument::Compact) + '\n');
 }
 
+void complain(const QString& sentence)
+{
+    std::fprintf(stderr, "pixmallow: %s\n", sentence.toLocal8Bit().constData());
+}
+
 QJsonObject toJson(QRect rect)
 {
     return {{u"x"_s, rect.x()}, {u"y"_s, rect.y()}, {u"width"_s, rect.width()},

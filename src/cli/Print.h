@@ -13,5 +13,8 @@ Result<void> print(const QByteArray& text);
 /// A document as scripts expect it: compact, one line.
 Result<void> print(const QJsonValue& value);
 
+/// A sentence for the user to standard error, with the program's name.
+void complain(const QString& sentence);
+
 /// {"x":0,"y":0,"width":1,"height":1}
 QJsonObject toJson(QRect rect);

@@ -5,37 +5,55 @@
 
 #include <QCoreApplication>
 
-#include <cstdio>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
 enum ExitCode { Done = 0, Failed = 2, WrongArguments = 64 };
 
-Result<void> run(const ShotRequest& request)
+Result<int> codeOf(const Result<void>& done)
 {
-    return runShot(request);
+    return done ? Result<int>(Done) : done.error();
 }
 
-Result<void> run(const ListRequest& request)
+Result<int> run(const ShotRequest& request)
 {
-    return runList(request);
+    return codeOf(runShot(request));
 }
 
-Result<void> run(HelpRequest)
+Result<int> run(const ListRequest& request)
 {
-    return print(helpText().toUtf8());
+    return codeOf(runList(request));
 }
 
-Result<void> run(VersionRequest)
+Result<int> run(const CaptureRequest& request)
 {
-    return print(QByteArray("pixmallow " PIXMALLOW_VERSION "\n"));
+    return runCapture(request);
+}
+
+Result<int> run(const LaunchRequest& request)
+{
+    return runLaunch(request);
+}
+
+Result<int> run(QuitRequest)
+{
+    return codeOf(runQuit());
+}
+
+Result<int> run(HelpRequest)
+{
+    return codeOf(print(helpText().toUtf8()));
+}
+
+Result<int> run(VersionRequest)
+{
+    return codeOf(print(QByteArray("pixmallow " PIXMALLOW_VERSION "\n")));
 }
 
 int fail(const Error& error, ExitCode code)
 {
-    std::fprintf(stderr, "pixmallow: %s\n", error.message.toLocal8Bit().constData());
+    complain(error.message);
     return code;
 }
 
@@ -50,6 +68,6 @@ int main(int argc, char** argv)
         error.message += u" See 'pixmallow --help'."_s;
         return fail(error, WrongArguments);
     }
-    const auto done = std::visit([](const auto& each) { return run(each); }, *request);
-    return done ? Done : fail(done.error(), Failed);
+    const auto code = std::visit([](const auto& each) { return run(each); }, *request);
+    return code ? *code : fail(code.error(), Failed);
 }

@@ -34,16 +34,35 @@ TEST(ArgumentsTest, understandsShot)
         std::holds_alternative<WholeDesktop>(std::get<ShotRequest>(*parse(u"shot"_s)).target));
 }
 
+TEST(ArgumentsTest, understandsWhatTheResidentProgramIsAskedFor)
+{
+    const auto request = parse(u"capture --json delayed --wait"_s);
+    ASSERT_TRUE(request) << request.error().message.toStdString();
+    const auto& capture = std::get<CaptureRequest>(*request);
+    EXPECT_EQ(capture.kind, CaptureKind::Delayed);
+    EXPECT_TRUE(capture.wait && capture.json);
+    EXPECT_TRUE(std::holds_alternative<QuitRequest>(*parse(u"quit"_s)));
+    EXPECT_EQ(std::get<LaunchRequest>(*parse(u""_s)).options, QStringList());
+    EXPECT_EQ(
+        std::get<LaunchRequest>(*parse(u"--replace"_s)).options, QStringList {u"--replace"_s});
+    const auto unknown = parse(u"capture moon"_s);
+    ASSERT_FALSE(unknown);
+    for (const auto& info : captureKinds)
+        EXPECT_TRUE(unknown.error().message.contains(info.key));
+}
+
 TEST(ArgumentsTest, refusesWhatItDoesNotUnderstandInOneLine)
 {
-    for (const auto& words : {u""_s, u"shoot"_s, u"shot extra"_s, u"shot --screen"_s,
-             u"shot --screen 0"_s, u"shot --screen one"_s, u"shot --window 0"_s,
-             u"shot --window 99999999999"_s, u"shot --area 1,2,3"_s, u"shot --area 1,2,0x5"_s,
-             u"shot --area 1,2,5x5x5"_s, u"shot --area 0,0,100000x1"_s,
-             u"shot --screen 1 --window 5"_s, u"shot --screen 1 --screen 2"_s,
-             u"shot --output= --json"_s, u"shot --output a.jpg"_s, u"shot --output a.JPEG"_s,
-             u"shot --output - --json"_s, u"shot --shadow"_s, u"shot --colour"_s, u"list"_s,
-             u"list doors"_s, u"list screens windows"_s, u"list screens --cursor"_s}) {
+    for (const auto& words :
+        {u"shoot"_s, u"capture"_s, u"capture region window"_s, u"capture region --replace"_s,
+            u"quit now"_s, u"quit --wait"_s, u"--replace shot"_s, u"--colour"_s, u"shot extra"_s,
+            u"shot --screen"_s, u"shot --screen 0"_s, u"shot --screen one"_s, u"shot --window 0"_s,
+            u"shot --window 99999999999"_s, u"shot --area 1,2,3"_s, u"shot --area 1,2,0x5"_s,
+            u"shot --area 1,2,5x5x5"_s, u"shot --area 0,0,100000x1"_s,
+            u"shot --screen 1 --window 5"_s, u"shot --screen 1 --screen 2"_s,
+            u"shot --output= --json"_s, u"shot --output a.jpg"_s, u"shot --output a.JPEG"_s,
+            u"shot --output - --json"_s, u"shot --shadow"_s, u"shot --colour"_s, u"list"_s,
+            u"list doors"_s, u"list screens windows"_s, u"list screens --cursor"_s}) {
         const auto request = parse(words);
         ASSERT_FALSE(request) << words.toStdString();
         EXPECT_FALSE(request.error().message.isEmpty()) << words.toStdString();

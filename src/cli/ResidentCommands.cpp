@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+#include "cli/ResidentProgram.h"
+
+Error runLaunch(const LaunchRequest& request)
+{
+    return ResidentProgram::become(request.options);
+}
+
+Result<void> runQuit()
+{
+    return askResidentToQuitAndWait(Folders::ofUser(), std::chrono::seconds(10));
+}
