@@ -16,6 +16,7 @@ function(pixmallow_room room)
     add_library(${target} STATIC ${ARG_SOURCES})
     target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
     pixmallow_compile_options(${target})
 endfunction()
 

@@ -11,9 +11,9 @@ namespace {
 constexpr double smallestExtent = 40; // Points; a window has to exceed it to be offered.
 
 /// In points of the display that shows most of the window; a window nowhere counts pixel by pixel.
-QSizeF sizeInPoints(const Window& window, const QList<Display>& displays)
+QSizeF sizeInPoints(const Window& window, const QList<DisplayInfo>& displays)
 {
-    const Display* display = displayShowingMost(window.frame, displays);
+    const DisplayInfo* display = displayShowingMost(window.frame, displays);
     return QSizeF(window.frame.size()) / (display ? display->scale : 1);
 }
 
@@ -29,7 +29,7 @@ QRectF Capture::appKitRect(QRectF quartz, double primaryHeight)
     return {quartz.x(), primaryHeight - quartz.bottom(), quartz.width(), quartz.height()};
 }
 
-QRectF Capture::toPoints(QRect native, const Display& display)
+QRectF Capture::toPoints(QRect native, const DisplayInfo& display)
 {
     const QPointF inside = QPointF(native.topLeft() - display.native.topLeft()) / display.scale;
     const QSizeF size = QSizeF(native.size()) / display.scale;
@@ -37,7 +37,7 @@ QRectF Capture::toPoints(QRect native, const Display& display)
     return QRectF(display.points.topLeft() + QPointF(inside.x(), fromFoot), size);
 }
 
-std::optional<Display> Capture::screen(DisplayId id, const QList<Display>& displays)
+std::optional<DisplayInfo> Capture::screen(DisplayId id, const QList<DisplayInfo>& displays)
 {
     for (const auto& display : displays)
         if (display.id == id)
@@ -45,7 +45,8 @@ std::optional<Display> Capture::screen(DisplayId id, const QList<Display>& displ
     return std::nullopt;
 }
 
-std::optional<Display> Capture::screenUnder(QPoint nativePointer, const QList<Display>& displays)
+std::optional<DisplayInfo> Capture::screenUnder(
+    QPoint nativePointer, const QList<DisplayInfo>& displays)
 {
     for (const auto& display : displays)
         if (display.native.contains(nativePointer))
@@ -53,7 +54,7 @@ std::optional<Display> Capture::screenUnder(QPoint nativePointer, const QList<Di
     return displays.isEmpty() ? std::nullopt : std::optional(displays.first());
 }
 
-double Capture::scaleOf(QRect native, const QList<Display>& displays)
+double Capture::scaleOf(QRect native, const QList<DisplayInfo>& displays)
 {
     for (const auto& display : displays)
         if (display.native.intersects(native))
@@ -71,7 +72,7 @@ void Capture::sortFrontToBack(QList<Window>& windows, const Order& order)
 }
 
 QList<Window> Capture::regionCandidates(
-    QList<Window> windows, const Order& order, const QList<Display>& displays)
+    QList<Window> windows, const Order& order, const QList<DisplayInfo>& displays)
 {
     windows.removeIf([&](const Window& window) {
         const QSizeF size = sizeInPoints(window, displays);
@@ -83,7 +84,7 @@ QList<Window> Capture::regionCandidates(
 }
 
 std::optional<Window> Capture::frontWindow(QList<Window> windows, const Order& order,
-    const Application& application, const QList<Display>& displays)
+    const Application& application, const QList<DisplayInfo>& displays)
 {
     const auto isOfApplication = [&application](const Window& window) {
         return application.processId ? window.application.processId == application.processId

@@ -8,7 +8,7 @@
 
 /// One screen as it was when a selection began.
 struct FrozenScreen {
-    Display display;
+    DisplayInfo display;
     QImage image; ///< Device pixels of the display.
 };
 

@@ -15,7 +15,7 @@ QString placed(QRect rect)
     return u"%1,%2,%3x%4"_s.arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
 }
 
-Result<void> listScreens(const QList<Display>& displays, bool json)
+Result<void> listScreens(const QList<DisplayInfo>& displays, bool json)
 {
     QJsonArray array;
     QString lines;

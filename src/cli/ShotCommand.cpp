@@ -27,9 +27,9 @@ struct Taken {
     double scale = 1;
 };
 
-double scaleAt(QRect native, const QList<Display>& displays)
+double scaleAt(QRect native, const QList<DisplayInfo>& displays)
 {
-    const Display* display = displayShowingMost(native, displays);
+    const DisplayInfo* display = displayShowingMost(native, displays);
     return display ? display->scale : 1;
 }
 

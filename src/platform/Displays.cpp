@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Displays.h"
 
-const Display* displayShowingMost(QRect native, const QList<Display>& displays)
+const DisplayInfo* displayShowingMost(QRect native, const QList<DisplayInfo>& displays)
 {
-    const Display* best = nullptr;
+    const DisplayInfo* best = nullptr;
     qint64 most = 0;
     for (const auto& display : displays) {
         const QRect part = display.native & native;

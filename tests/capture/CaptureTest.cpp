@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Display sharp {1, u"L"_s, QRect(0, 0, 2560, 1600), 2, QRectF(0, 0, 1280, 800)};
-const Display plain {2, u"R"_s, QRect(2560, 100, 1000, 700), 1, QRectF(2560, 0, 1000, 700)};
+const DisplayInfo sharp {1, u"L"_s, QRect(0, 0, 2560, 1600), 2, QRectF(0, 0, 1280, 800)};
+const DisplayInfo plain {2, u"R"_s, QRect(2560, 100, 1000, 700), 1, QRectF(2560, 0, 1000, 700)};
 
 Window window(WindowId id, QRect frame, qint64 processId = 1, const QString& name = u"App"_s)
 {
@@ -68,7 +68,7 @@ TEST(CaptureTest, convertsBetweenPixelsAndPoints)
 
 TEST(CaptureTest, findsTheScreenUnderThePointerElseThePrimary)
 {
-    const QList<Display> both {sharp, plain};
+    const QList<DisplayInfo> both {sharp, plain};
     EXPECT_EQ(Capture::screenUnder({2560, 100}, both), plain);
     EXPECT_EQ(Capture::screenUnder({2559, 100}, both), sharp);
     EXPECT_EQ(Capture::screenUnder({2560, 99}, both), sharp) << "in the gap";

@@ -51,16 +51,16 @@ QList<Monitor> monitors(X11Connection& connection)
 
 } // namespace
 
-QList<Display> X11Displays::list() const
+QList<DisplayInfo> X11Displays::list() const
 {
     const auto resources
         = m_connection->text(m_connection->property(m_connection->root(), "RESOURCE_MANAGER"));
     const auto settings = ScaleSettings::ofEnvironment(resources);
     const auto found = monitors(*m_connection);
 
-    QList<Display> displays;
+    QList<DisplayInfo> displays;
     for (qsizetype i = 0; i < found.size(); ++i) {
-        const Display display {
+        const DisplayInfo display {
             found[i].id, found[i].name, found[i].native, settings.scaleOf(found[i].name, i), {}};
         displays.insert(found[i].primary ? 0 : displays.size(), display);
     }

@@ -13,7 +13,7 @@ public:
     {
     }
 
-    QList<Display> list() const override;
+    QList<DisplayInfo> list() const override;
     QPoint pointer() const override;
 
 private:

@@ -171,7 +171,7 @@ Result<Frozen> X11ScreenCapture::readWindow(WindowId id, WindowShadow shadow, Po
     auto picture = cutToShape(*m_connection, window, rect, *std::move(bitmap));
     if (shadow == WindowShadow::Kept && !keepsOwnShadow) {
         const auto displays = m_displays.list();
-        const Display* display = displayShowingMost(window.frame(), displays);
+        const DisplayInfo* display = displayShowingMost(window.frame(), displays);
         picture = withDrawnShadow(picture, display ? display->scale : 1);
     }
     return Frozen(std::make_shared<BitmapRows>(std::move(picture)));

@@ -4,16 +4,13 @@
 
 #include "platform/ScreenCapture.h"
 #include "platform/freedesktop/DesktopEntries.h"
+#include "platform/x11/OwnWindowProperty.h"
 #include "platform/x11/X11Connection.h"
 
 #include <QMargins>
 
 #include <optional>
 #include <span>
-
-/// The property, a CARDINAL of 1, by which windows of this program are known to every process of
-/// it.
-inline constexpr char ownWindowProperty[] = "_PIXMALLOW_OWN";
 
 /// A client window together with what the window manager put around it.
 struct X11Window {

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "platform/DesktopPlatform.h"
+
+#include "platform/freedesktop/DesktopWorkspace.h"
+#include "platform/freedesktop/ToolkitClipboard.h"
+#include "platform/x11/OwnWindowMarker.h"
+#include "platform/x11/X11ActiveApplication.h"
+
+Result<DesktopPlatform> makeDesktopPlatform()
+{
+    auto capture = makeCapturePlatform(Residency::Resident);
+    if (!capture)
+        return capture.error();
+    auto listening = X11Connection::open();
+    if (!listening)
+        return listening.error();
+    DesktopPlatform platform {*std::move(capture), {}, {}, {}, {}};
+    platform.activeApplication = std::make_unique<X11ActiveApplication>(*listening);
+    platform.clipboard = std::make_unique<ToolkitClipboard>();
+    platform.workspace = std::make_unique<DesktopWorkspace>();
+    platform.ownWindows = std::make_unique<OwnWindowMarker>();
+    return platform;
+}

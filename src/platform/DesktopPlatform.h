@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ActiveApplication.h"
+#include "platform/Clipboard.h"
+#include "platform/Platform.h"
+#include "platform/Workspace.h"
+
+/// All seams to the operating system, for the resident program.
+struct DesktopPlatform : CapturePlatform {
+    std::unique_ptr<ActiveApplication> activeApplication;
+    std::unique_ptr<Clipboard> clipboard;
+    std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
+};
+
+/// Needs a QGuiApplication. Fails with a sentence for the user.
+Result<DesktopPlatform> makeDesktopPlatform();
