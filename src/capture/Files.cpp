@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "capture/Files.h"
+
+#include "base/AtomicFile.h"
+#include "base/FileNames.h"
+#include "base/PngWriter.h"
+#include "capture/Pixels.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QPainter>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int jpegQuality = 92;
+constexpr double inchesPerMetre = 1 / 0.0254;
+
+const QString encodingFailed = u"Couldn't encode the image."_s;
+
+Result<QByteArray> encodePng(const QImage& image, double scale)
+{
+    QByteArray bytes;
+    bytes.reserve(image.sizeInBytes() / 8); // What a desktop takes; it grows for photographs.
+    ImageRows rows(image);
+    const auto sink = [&bytes](std::span<const std::uint8_t> part) {
+        bytes.append(reinterpret_cast<const char*>(part.data()), qsizetype(part.size()));
+        return Result<void>();
+    };
+    const auto written = writePng(rows, scale, sink);
+    if (!written)
+        return Error::failed(encodingFailed);
+    return bytes;
+}
+
+QImage flattenedOnWhite(const QImage& image)
+{
+    if (!image.hasAlphaChannel())
+        return image;
+    QImage flat(image.size(), QImage::Format_RGB32);
+    flat.fill(Qt::white);
+    QPainter painter(&flat);
+    QImage plain = image;
+    plain.setDevicePixelRatio(1);
+    painter.drawImage(0, 0, plain);
+    return flat;
+}
+
+Result<QByteArray> encodeJpeg(const QImage& image, double scale)
+{
+    QImage flat = flattenedOnWhite(image);
+    const int dotsPerMetre = int(std::lround(scale * 72 * inchesPerMetre));
+    flat.setDotsPerMeterX(dotsPerMetre);
+    flat.setDotsPerMeterY(dotsPerMetre);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setQuality(jpegQuality);
+    if (!buffer.open(QIODevice::WriteOnly) || !writer.write(flat))
+        return Error::failed(encodingFailed);
+    return bytes;
+}
+
+QString temporaryFolder(const Folders& folders)
+{
+    return folders.cache + u"/Temporary"_s;
+}
+
+} // namespace
+
+ImageType Files::imageType(const QString& extension)
+{
+    const QString lower = extension.toLower();
+    return lower == u"jpg"_s || lower == u"jpeg"_s ? ImageType::Jpeg : ImageType::Png;
+}
+
+QString Files::nextURL(
+    const QString& folder, const QString& extension, const QString& prefix, const QDateTime& time)
+{
+    ensureFolder(folder);
+    const QString base = folder + u'/' + FileNames::dated(prefix, time);
+    for (int number = 1;; ++number) {
+        const QString candidate = FileNames::numbered(base, number, extension);
+        if (!QFileInfo::exists(candidate))
+            return candidate;
+    }
+}
+
+void Files::ensureFolder(const QString& folder)
+{
+    QDir().mkpath(folder);
+}
+
+Result<QByteArray> Files::encode(const QImage& image, ImageType type, double scale)
+{
+    if (image.isNull())
+        return Error::failed(encodingFailed);
+    return type == ImageType::Jpeg ? encodeJpeg(image, scale) : encodePng(image, scale);
+}
+
+Result<void> Files::write(const QImage& image, const QString& path, double scale)
+{
+    const auto bytes = encode(image, imageType(QFileInfo(path).suffix()), scale);
+    if (!bytes)
+        return bytes.error();
+    return writeFile(path, *bytes, {AtomicFile::Existing::Replace, AtomicFile::Access::Umask});
+}
+
+Result<QString> Files::save(const QByteArray& bytes, const QString& folder,
+    const QString& extension, const QString& prefix, const QDateTime& time)
+{
+    for (;;) {
+        const QString path = nextURL(folder, extension, prefix, time);
+        const auto written
+            = writeFile(path, bytes, {AtomicFile::Existing::Keep, AtomicFile::Access::Umask});
+        if (written)
+            return path;
+        if (written.error().kind != Error::Kind::Exists)
+            return written.error();
+    }
+}
+
+void Files::copy(Clipboard& clipboard, const QImage& image, double scale, const QByteArray& png)
+{
+    QImage sized = image;
+    sized.setDevicePixelRatio(scale);
+    clipboard.setImage(sized, png);
+}
+
+std::optional<QString> Files::tempPNG(
+    const QImage& image, double scale, const Folders& folders, const QDateTime& time)
+{
+    const QString folder = temporaryFolder(folders);
+    const QString name = FileNames::numbered(FileNames::dated(u"Screenshot"_s, time), 1, u"png"_s);
+    const QString path = folder + u'/' + name;
+    if (!ensurePrivateFolder(folder) || !write(image, path, scale))
+        return std::nullopt;
+    return path;
+}
+
+void Files::cleanTemporaries(const Folders& folders)
+{
+    QDir(temporaryFolder(folders)).removeRecursively();
+}
+
+void Files::reveal(Workspace& workspace, const QString& path, const QString& saveFolder)
+{
+    if (!path.isEmpty() && QFileInfo::exists(path)) {
+        workspace.reveal(path);
+        return;
+    }
+    ensureFolder(saveFolder);
+    workspace.open(saveFolder);
+}

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/Bitmap.h"
+
+#include <QImage>
+
+/// A bitmap as the toolkit sees it, sharing its pixels; RGB32 or ARGB32_Premultiplied.
+QImage toImage(const Bitmap& bitmap);
+
+/// All of a picture.
+Result<QImage> readImage(RowSource& source);
+
+/// A toolkit image read as rows; formats other than the two of PixelFormat are converted at once.
+class ImageRows final : public RowSource {
+public:
+    explicit ImageRows(const QImage& image);
+
+    QSize size() const override { return m_image.size(); }
+    PixelFormat format() const override;
+    Result<Rows> rows(int y, int most) override;
+
+private:
+    QImage m_image;
+};
