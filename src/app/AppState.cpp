@@ -1,0 +1,282 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "app/AppState.h"
+
+#include "base/Worker.h"
+#include "capture/Files.h"
+
+#include <QCoro/QCoroTimer>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+AppState* s_shared = nullptr;
+
+/// Long enough for the panel or menu that a capture was started from to be gone.
+constexpr auto settleTime = 120ms;
+
+const QString failureSymbol = u"exclamationmark.triangle.fill"_s;
+
+/// Passes through a room, if it is connected.
+template <typename... Parameters, typename... Arguments>
+void pass(const std::function<void(Parameters...)>& stage, Arguments&&... arguments)
+{
+    if (stage)
+        stage(std::forward<Arguments>(arguments)...);
+}
+
+} // namespace
+
+AppState::AppState(DesktopPlatform& platform, Prefs& prefs, CaptureStages stages)
+    : m_platform(platform)
+    , m_prefs(prefs)
+    , m_stages(std::move(stages))
+    , m_shots(*platform.displays, *platform.capture, prefs)
+{
+}
+
+AppState& AppState::shared()
+{
+    Q_ASSERT(s_shared);
+    return *s_shared;
+}
+
+void AppState::install()
+{
+    s_shared = this;
+}
+
+void AppState::start()
+{
+    if (const auto application = m_platform.activeApplication->current())
+        follow(*application);
+    connect(
+        m_platform.activeApplication.get(), &ActiveApplication::activated, this, &AppState::follow);
+    if (!m_platform.capture->permitted())
+        pass(m_stages.showPermissionWindow);
+}
+
+void AppState::follow(const Application& application)
+{
+    if (application.id != ownApplicationId)
+        m_lastOtherApp = application;
+}
+
+bool AppState::isAvailable(CaptureKind kind) const
+{
+    switch (kind) {
+    case CaptureKind::Region:
+        return bool(m_stages.selectRegion);
+    case CaptureKind::Delayed:
+        return bool(m_stages.countDown);
+    case CaptureKind::Text:
+        return m_stages.selectRegion && m_stages.recogniseText;
+    case CaptureKind::Window:
+    case CaptureKind::Screen:
+        return true;
+    }
+    return false;
+}
+
+void AppState::capture(CaptureKind kind)
+{
+    std::ignore = captureAndReport(kind);
+}
+
+Pending<CaptureReport> AppState::captureAndReport(CaptureKind kind)
+{
+    using Outcome = CaptureReport::Outcome;
+    if (m_busy)
+        return Pending<CaptureReport>::answered(
+            CaptureReport {Outcome::Busy, u"Another capture is running."_s});
+    if (!isAvailable(kind))
+        return Pending<CaptureReport>::answered(
+            CaptureReport {Outcome::Failed, u"This kind of capture is not available."_s});
+    if (!m_platform.capture->permitted()) {
+        pass(m_stages.showPermissionWindow);
+        return Pending<CaptureReport>::answered(
+            CaptureReport {Outcome::Failed, u"The screen may not be captured yet."_s});
+    }
+    m_busy = true;
+    m_report = {};
+    pass(m_stages.closePreviews);
+    auto [pending, answer] = Pending<CaptureReport>::ask();
+    run(kind, std::move(answer));
+    return std::move(pending);
+}
+
+QCoro::Task<> AppState::run(CaptureKind kind, Pending<CaptureReport>::Answer answer)
+{
+    co_await QCoro::sleepFor(settleTime);
+    const auto shot = co_await take(kind);
+    if (shot && kind == CaptureKind::Text)
+        co_await copyText(*shot);
+    else if (shot)
+        co_await finish(*shot);
+    else if (!shot.error().isCancelled())
+        fail({u"Capture failed"_s, shot.error().message, failureSymbol});
+    m_busy = false;
+    answer(m_report);
+    Q_EMIT captureEnded();
+}
+
+QCoro::Task<Result<Shot>> AppState::take(CaptureKind kind)
+{
+    const QString otherApp = m_lastOtherApp ? m_lastOtherApp->name : QString();
+    switch (kind) {
+    case CaptureKind::Region:
+        co_return co_await m_shots.region(m_stages.selectRegion, QString(), otherApp);
+    case CaptureKind::Text:
+        co_return co_await m_shots.region(
+            m_stages.selectRegion, u"Select the text to copy"_s, otherApp);
+    case CaptureKind::Window:
+        co_return co_await captureFrontWindow();
+    case CaptureKind::Delayed: {
+        const auto counted = co_await m_stages.countDown(m_prefs.get(Prefs::keys.delaySeconds));
+        if (!counted)
+            co_return counted.error();
+        break;
+    }
+    case CaptureKind::Screen:
+        break;
+    }
+    co_return co_await m_shots.screenUnderMouse();
+}
+
+QCoro::Task<Result<Shot>> AppState::captureFrontWindow()
+{
+    std::optional<Window> target;
+    if (m_lastOtherApp) {
+        const auto front = m_shots.frontWindow(*m_lastOtherApp);
+        if (!front)
+            co_return front.error();
+        target = *front;
+    }
+    if (!target) {
+        fail({u"No window to capture"_s,
+            u"Click the window you want first, then press the shortcut."_s, u"macwindow"_s});
+        co_return Error::cancelled();
+    }
+    co_return co_await m_shots.window(*target);
+}
+
+QCoro::Task<> AppState::finish(Shot shot)
+{
+    pass(m_stages.playShutter);
+    if (shot.area)
+        pass(m_stages.playEffect, *shot.area, shot.image);
+    pass(m_stages.countCapture);
+
+    const bool copies = m_prefs.get(Prefs::keys.copyToClipboard);
+    const bool saves = m_prefs.get(Prefs::keys.autoSave);
+    const QString format = m_prefs.imageFormat();
+    QByteArray png;
+    if (copies || m_stages.addToHistory || (saves && format == u"png"_s))
+        png = co_await encoded(shot, u"png"_s);
+
+    FinishedCapture finished {shot};
+    QStringList notes;
+    if (copies) {
+        Files::copy(*m_platform.clipboard, shot.image, shot.scale, png);
+        notes << u"Copied"_s;
+    }
+    if (saves) {
+        QByteArray bytes = png;
+        if (format != u"png"_s)
+            bytes = co_await encoded(shot, format);
+        finished.path = co_await saved(bytes, format);
+        notes << (finished.path.isEmpty() ? u"Save failed"_s : u"Saved"_s);
+    }
+    if (m_stages.addToHistory)
+        finished.historyId = m_stages.addToHistory(shot, png, finished.path);
+
+    m_report = {CaptureReport::Outcome::Done, m_report.reason, finished.path, shot.image.size(),
+        shot.scale, shot.app, finished.historyId, {}};
+    m_last = finished;
+    Q_EMIT lastChanged();
+    present(finished, notes);
+}
+
+/// Encodes off the main thread, so that the effect keeps playing; empty if it fails.
+QCoro::Task<QByteArray> AppState::encoded(Shot shot, QString format)
+{
+    const ImageType type = Files::imageType(format);
+    auto work = [shot, type] { return Files::encode(shot.image, type, shot.scale); };
+    const auto bytes = co_await runOnWorker(work);
+    if (!bytes)
+        m_report.reason = bytes.error().message;
+    co_return bytes ? *bytes : QByteArray();
+}
+
+/// The path of a new file in the save folder; empty if it could not be written.
+QCoro::Task<QString> AppState::saved(QByteArray bytes, QString format)
+{
+    if (bytes.isEmpty())
+        co_return QString();
+    const QString folder = m_prefs.saveFolder();
+    const auto now = QDateTime::currentDateTime();
+    auto work = [=] { return Files::save(bytes, folder, format, u"Screenshot"_s, now); };
+    const auto path = co_await runOnWorker(work);
+    if (!path)
+        m_report.reason = path.error().message;
+    co_return path ? *path : QString();
+}
+
+void AppState::present(const FinishedCapture& finished, const QStringList& notes)
+{
+    const QString after = m_prefs.get(Prefs::keys.afterCapture);
+    if (after == u"editor"_s)
+        pass(m_stages.openEditor, finished);
+    else if (after == u"preview"_s || after.isEmpty())
+        pass(m_stages.showPreview, finished, infoLine(finished.shot.image.size(), notes));
+}
+
+QCoro::Task<> AppState::copyText(Shot shot)
+{
+    const auto recognised = co_await m_stages.recogniseText(shot.image);
+    if (!recognised) {
+        if (!recognised.error().isCancelled())
+            fail({u"Couldn't read text"_s, recognised.error().message, failureSymbol});
+        co_return;
+    }
+    if (recognised->text.isEmpty()) {
+        fail({u"No text found"_s, u"Try selecting a larger or sharper area."_s,
+            u"text.magnifyingglass"_s});
+        co_return;
+    }
+    m_platform.clipboard->setText(recognised->text);
+    pass(m_stages.playShutter);
+    pass(m_stages.countTextCapture);
+    pass(m_stages.showToast, textCopiedToast(recognised->lines));
+    m_report = {CaptureReport::Outcome::Done, {}, {}, shot.image.size(), shot.scale, shot.app, {},
+        recognised->text};
+}
+
+void AppState::editLast()
+{
+    if (m_last)
+        pass(m_stages.openEditor, *m_last);
+    else
+        pass(m_stages.showHistory);
+}
+
+void AppState::fail(const ToastMessage& toast)
+{
+    m_report.outcome = CaptureReport::Outcome::Failed;
+    m_report.reason = toast.message.isEmpty() ? toast.title : toast.title + u": "_s + toast.message;
+    pass(m_stages.showToast, toast);
+}
+
+QString infoLine(QSize pixels, const QStringList& notes)
+{
+    const QString size = u"%1 × %2"_s.arg(pixels.width()).arg(pixels.height());
+    return (QStringList {size} + notes).join(u"  •  "_s);
+}
+
+ToastMessage textCopiedToast(int lines)
+{
+    const QString title = u"Text copied — %1 line%2"_s.arg(lines).arg(lines == 1 ? u""_s : u"s"_s);
+    return {title, {}, u"text.viewfinder"_s, std::chrono::seconds(5)};
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/CaptureStages.h"
+#include "base/CaptureKind.h"
+#include "base/CaptureReport.h"
+#include "base/Prefs.h"
+#include "capture/ShotTaker.h"
+#include "platform/DesktopPlatform.h"
+
+#include <QObject>
+
+/// The coordinator: every way to start a capture leads here, and the one road of a capture runs
+/// through run() and finish(). Lives on the main thread for as long as the program.
+class AppState final : public QObject {
+    Q_OBJECT
+
+public:
+    AppState(DesktopPlatform& platform, Prefs& prefs, CaptureStages stages);
+
+    static AppState& shared(); ///< The one that install() was called on.
+    void install();
+
+    /// Begins to follow which program the user works in; asks for permission if there is none.
+    void start();
+
+    /// Takes a capture; ignored while another one runs.
+    void capture(CaptureKind kind);
+
+    /// The same, and tells how it ended.
+    Pending<CaptureReport> captureAndReport(CaptureKind kind);
+
+    /// Whether all that a kind of capture needs is connected.
+    bool isAvailable(CaptureKind kind) const;
+
+    /// The last capture in the editor, or the history when there is none.
+    void editLast();
+
+    const std::optional<FinishedCapture>& last() const { return m_last; }
+    const std::optional<Application>& lastOtherApp() const { return m_lastOtherApp; }
+    bool isBusy() const { return m_busy; }
+
+Q_SIGNALS:
+    void lastChanged();
+    void captureEnded(); ///< However it ended; isBusy() is false from now on.
+    void panelRequested(); ///< Somebody started the program again.
+
+private:
+    void follow(const Application& application);
+    QCoro::Task<> run(CaptureKind kind, Pending<CaptureReport>::Answer answer);
+    QCoro::Task<Result<Shot>> take(CaptureKind kind);
+    QCoro::Task<Result<Shot>> captureFrontWindow();
+    QCoro::Task<> finish(Shot shot);
+    QCoro::Task<> copyText(Shot shot);
+    QCoro::Task<QByteArray> encoded(Shot shot, QString format);
+    QCoro::Task<QString> saved(QByteArray bytes, QString format);
+    void present(const FinishedCapture& finished, const QStringList& notes);
+    void fail(const ToastMessage& toast);
+
+    DesktopPlatform& m_platform;
+    Prefs& m_prefs;
+    const CaptureStages m_stages;
+    ShotTaker m_shots;
+    std::optional<FinishedCapture> m_last;
+    std::optional<Application> m_lastOtherApp;
+    bool m_busy = false;
+    CaptureReport m_report; ///< Of the capture that runs.
+};
+
+/// "2880 × 1800  •  Copied  •  Saved"
+QString infoLine(QSize pixels, const QStringList& notes);
+
+/// What is said when a text capture found some text.
+ToastMessage textCopiedToast(int lines);

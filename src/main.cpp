@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "app/AppState.h"
+#include "app/ControlServer.h"
+#include "app/TerminationSignals.h"
+#include "base/ControlClient.h"
+#include "capture/Files.h"
+#include "ui/TrayItem.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// How long the program that is replaced may take to finish what it writes.
+constexpr auto replacement = 20s;
+
+/// How long a capture that runs when the program is told to end may take to reach its file.
+constexpr auto lastCapture = 10s;
+
+int fail(const Error& error)
+{
+    std::fprintf(stderr, "pixmallow: %s\n", error.message.toLocal8Bit().constData());
+    return 2;
+}
+
+/// Another process is the resident one: the user who starts the program again wants to see it.
+int showOther(const Folders& folders)
+{
+    auto resident = ControlClient::connect(folders);
+    if (!resident)
+        return fail(resident.error());
+    if (!*resident)
+        return fail(Error::failed(u"Pixmallow is just ending; start it again."_s));
+    const auto answer = (*resident)->ask(Control::ShowPanel {});
+    return answer ? 0 : fail(answer.error());
+}
+
+/// Writes come first: a capture that runs is taken to its end.
+void finishCapture(const AppState& state)
+{
+    const QDeadlineTimer deadline(lastCapture);
+    while (state.isBusy() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
+{
+    auto platform = makeDesktopPlatform();
+    if (!platform)
+        return fail(platform.error());
+    Prefs prefs(folders);
+    prefs.install();
+    prefs.registerDefaults();
+    Files::cleanTemporaries(folders);
+
+    AppState state(*platform, prefs, CaptureStages {});
+    state.install();
+    state.start();
+    TrayItem tray(state, prefs);
+    QObject::connect(&state, &AppState::panelRequested, &tray, &TrayItem::showMenu);
+
+    const TerminationSignals signals;
+    QObject::connect(&signals, &TerminationSignals::received, qApp, &QCoreApplication::quit);
+    server->serve({[&state] { Q_EMIT state.panelRequested(); },
+        [&state](CaptureKind kind) { return state.captureAndReport(kind); },
+        [] { QCoreApplication::quit(); }});
+    const int code = QApplication::exec();
+    finishCapture(state);
+    QCoreApplication::processEvents(); // Whoever waits for that capture still hears of it.
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"pixmallow"_s);
+    QGuiApplication::setApplicationDisplayName(u"Pixmallow"_s);
+    QGuiApplication::setDesktopFileName(u"pixmallow"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const auto folders = Folders::ofUser();
+    const auto arguments = QCoreApplication::arguments();
+    if (arguments.contains(u"--replace"_s))
+        if (const auto gone = askResidentToQuitAndWait(folders, replacement); !gone)
+            return fail(gone.error());
+    auto server = ControlServer::listen(folders);
+    if (server)
+        return runResident(folders, *std::move(server));
+    if (server.error().kind != Error::Kind::Exists)
+        return fail(server.error());
+    // Started in the background, for somebody's request, it does not matter which one is there.
+    return arguments.contains(u"--background"_s) ? 0 : showOther(folders);
+}

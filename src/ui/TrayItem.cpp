@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "ui/TrayItem.h"
+
+#include "app/AppState.h"
+
+#include <QApplication>
+#include <QCursor>
+
+using namespace Qt::StringLiterals;
+
+TrayItem::TrayItem(AppState& state, const Prefs& prefs)
+    : m_state(state)
+    , m_prefs(prefs)
+    , m_icon(QIcon(u":/pixmallow.svg"_s))
+{
+    fillMenu();
+    m_icon.setToolTip(u"Pixmallow"_s);
+    m_icon.setContextMenu(&m_menu);
+    connect(&m_icon, &QSystemTrayIcon::activated, this,
+        [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger)
+                showMenu();
+        });
+    // The delay stands in one of the titles. Some trays copy a menu once, so it changes in place.
+    connect(&m_prefs, &Prefs::changed, this, [this](const QString& key) {
+        if (key == QLatin1String(Prefs::keys.delaySeconds.name))
+            fillMenu();
+    });
+    m_icon.show();
+}
+
+void TrayItem::fillMenu()
+{
+    m_menu.clear();
+    for (const auto& info : captureKinds) {
+        if (!m_state.isAvailable(info.kind))
+            continue;
+        QString title = info.title;
+        if (title.contains(u"%1"_s))
+            title = title.arg(m_prefs.get(Prefs::keys.delaySeconds));
+        m_menu.addAction(title, this, [this, kind = info.kind] { m_state.capture(kind); });
+    }
+    m_menu.addSeparator();
+    m_menu.addAction(u"Quit Pixmallow"_s, qApp, &QCoreApplication::quit);
+}
+
+void TrayItem::showMenu()
+{
+    const QRect icon = m_icon.geometry();
+    m_menu.popup(icon.isValid() ? icon.center() : QCursor::pos());
+}

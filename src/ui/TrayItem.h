@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/Prefs.h"
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+class AppState;
+
+/// The program's place in the tray: captures and quit. Where no tray runs, nothing is shown until
+/// one comes.
+class TrayItem final : public QObject {
+    Q_OBJECT
+
+public:
+    TrayItem(AppState& state, const Prefs& prefs);
+
+    /// At the icon where its place is known, else at the pointer.
+    void showMenu();
+
+private:
+    void fillMenu();
+
+    AppState& m_state;
+    const Prefs& m_prefs;
+    QMenu m_menu;
+    QSystemTrayIcon m_icon;
+};
