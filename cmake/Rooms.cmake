@@ -21,7 +21,7 @@ function(pixmallow_room room)
 endfunction()
 
 # pixmallow_test(base/PngWriterTest LINKS ...): one test program from tests/base/PngWriterTest.cpp,
-# its cases known to ctest by name.
+# its cases known to ctest by name, and as "desktop" if they need a virtual one.
 function(pixmallow_test path)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINKS;PROPERTIES")
     get_filename_component(target ${path} NAME)
@@ -32,5 +32,8 @@ function(pixmallow_test path)
         target_link_libraries(${target} PRIVATE GTest::gtest_main)
     endif()
     pixmallow_compile_options(${target})
+    if("desktop_main" IN_LIST ARG_LINKS)
+        list(APPEND ARG_PROPERTIES LABELS desktop)
+    endif()
     gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 PROPERTIES ${ARG_PROPERTIES})
 endfunction()
