@@ -5,7 +5,7 @@
 #include "base/Worker.h"
 #include "capture/Files.h"
 
-#include <QCoro/QCoroTimer>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -18,6 +18,15 @@ AppState* s_shared = nullptr;
 constexpr auto settleTime = 120ms;
 
 const QString failureSymbol = u"exclamationmark.triangle.fill"_s;
+
+/// Answers when that time has passed; to the millisecond, which a usual timer is not.
+Pending<void> settled()
+{
+    auto [pending, answer] = Pending<void>::ask();
+    const auto shared = std::make_shared<Pending<void>::Answer>(std::move(answer));
+    QTimer::singleShot(settleTime, Qt::PreciseTimer, qApp, [shared] { (*shared)({}); });
+    return std::move(pending);
+}
 
 /// Passes through a room, if it is connected.
 template <typename... Parameters, typename... Arguments>
@@ -109,7 +118,7 @@ Pending<CaptureReport> AppState::captureAndReport(CaptureKind kind)
 
 QCoro::Task<> AppState::run(CaptureKind kind, Pending<CaptureReport>::Answer answer)
 {
-    co_await QCoro::sleepFor(settleTime);
+    std::ignore = co_await settled();
     const auto shot = co_await take(kind);
     if (shot && kind == CaptureKind::Text)
         co_await copyText(*shot);

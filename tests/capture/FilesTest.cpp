@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "capture/Files.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <sys/mount.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QDateTime afternoon(QDate(2025, 3, 7), QTime(14, 5, 9));
+
+QImage gradient(QSize size, QImage::Format format = QImage::Format_RGB32)
+{
+    QImage image(size, format);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, qRgba(x * 5 % 256, y * 7 % 256, 90, 255));
+    return image;
+}
+
+QStringList names(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+int dotsPerInch(const QImage& image)
+{
+    return int(std::lround(image.dotsPerMeterX() * 0.0254));
+}
+
+} // namespace
+
+TEST(FilesTest, numbersFilesOfTheSameSecondInAFolderThatItMakes)
+{
+    const QTemporaryDir root;
+    const QString folder = root.filePath(u"Büro/中文/Shots"_s);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(Files::save("bytes", folder, u"png"_s, u"Screenshot"_s, afternoon));
+    EXPECT_THAT(names(folder),
+        testing::ElementsAre(u"Screenshot 2025-03-07 at 14.05.09 (2).png"_s,
+            u"Screenshot 2025-03-07 at 14.05.09 (3).png"_s,
+            u"Screenshot 2025-03-07 at 14.05.09.png"_s));
+    EXPECT_TRUE(
+        Files::nextURL(folder, u"jpg"_s, u"Screenshot"_s, afternoon).endsWith(u"14.05.09.jpg"_s));
+}
+
+TEST(FilesTest, neverReplacesWhatAnotherProcessSavesMeanwhile)
+{
+    const QTemporaryDir root;
+    constexpr int processes = 4, each = 15;
+    for (int i = 0; i < processes; ++i)
+        if (fork() == 0) {
+            bool good = true;
+            for (int k = 0; k < each; ++k)
+                good &= bool(Files::save(QByteArray::number(i * each + k), root.path(), u"png"_s,
+                    u"Screenshot"_s, afternoon));
+            _exit(good ? 0 : 1);
+        }
+    for (int i = 0, status = 0; i < processes; ++i) {
+        ASSERT_GT(wait(&status), 0);
+        EXPECT_EQ(status, 0);
+    }
+    QSet<QByteArray> contents;
+    for (const auto& name : names(root.path())) {
+        QFile file(root.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        contents.insert(file.readAll());
+    }
+    EXPECT_EQ(contents.size(), processes * each);
+}
+
+TEST(FilesTest, encodesByExtensionWithTheResolution)
+{
+    const QTemporaryDir root;
+    const QImage image = gradient({300, 200});
+    struct Case {
+        QString name;
+        QByteArray format;
+    };
+    for (const auto& [name, format] : {Case {u"a.png"_s, "png"}, Case {u"b.JPG"_s, "jpeg"},
+             Case {u"c.jpeg"_s, "jpeg"}, Case {u"d.tiff"_s, "png"}, Case {u"e"_s, "png"}}) {
+        ASSERT_TRUE(Files::write(image, root.filePath(name), 2));
+        QFile file(root.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QImage back = QImage::fromData(file.readAll(), format.constData());
+        EXPECT_EQ(back.size(), image.size()) << qPrintable(name);
+        EXPECT_EQ(dotsPerInch(back), 144) << qPrintable(name);
+        const bool lossless = format == "png";
+        EXPECT_EQ(back.convertToFormat(QImage::Format_RGB32) == image, lossless);
+    }
+    const auto nothing = Files::write(QImage(), root.filePath(u"x.png"_s), 1);
+    ASSERT_FALSE(nothing);
+    EXPECT_EQ(nothing.error().message, u"Couldn't encode the image."_s);
+    EXPECT_FALSE(QFile::exists(root.filePath(u"x.png"_s)));
+}
+
+TEST(FilesTest, keepsTransparencyInPngAndPutsWhiteBehindItInJpeg)
+{
+    QImage image = gradient({40, 30}, QImage::Format_ARGB32);
+    image.setPixel(3, 4, qRgba(200, 100, 50, 128));
+    for (int y = 10; y < 30; ++y)
+        for (int x = 10; x < 40; ++x)
+            image.setPixel(x, y, 0);
+    const auto png = Files::encode(image, ImageType::Png, 1);
+    ASSERT_TRUE(png);
+    const QImage back = QImage::fromData(*png, "png").convertToFormat(QImage::Format_ARGB32);
+    EXPECT_EQ(back.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+        image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+
+    image.setDevicePixelRatio(2); // Changes nothing about the pixels.
+    const auto jpeg = Files::encode(image, ImageType::Jpeg, 1);
+    ASSERT_TRUE(jpeg);
+    const QColor behind = QImage::fromData(*jpeg, "jpeg").pixelColor(30, 25);
+    EXPECT_GT(behind.red() + behind.green() + behind.blue(), 3 * 250);
+}
+
+TEST(FilesTest, saysWhyItCannotSaveAndLeavesNothingBehind)
+{
+    const QTemporaryDir root;
+    const QString occupied = root.filePath(u"file"_s);
+    ASSERT_TRUE(Files::write(gradient({9, 9}), occupied, 1));
+    const auto inFile = Files::save("bytes", occupied, u"png"_s, u"Screenshot"_s, afternoon);
+    ASSERT_FALSE(inFile);
+    EXPECT_TRUE(inFile.error().message.contains(occupied)) << inFile.error().message.toStdString();
+
+    const QString full = root.filePath(u"full"_s);
+    ASSERT_TRUE(QDir().mkdir(full));
+    if (mount("none", qPrintable(full), "tmpfs", 0, "size=64k") != 0)
+        GTEST_SKIP() << "a full disk needs a small file system, and mounting one needs root";
+    const QByteArray large(100'000, 'x');
+    const auto noRoom = Files::save(large, full, u"png"_s, u"Screenshot"_s, afternoon);
+    EXPECT_FALSE(noRoom);
+    EXPECT_THAT(names(full), testing::IsEmpty());
+    umount(qPrintable(full));
+}
+
+TEST(FilesTest, keepsTemporaryFilesToTheUserAndCleansThem)
+{
+    const QTemporaryDir root;
+    Folders folders;
+    folders.cache = root.filePath(u"cache"_s);
+    const QImage image = gradient({20, 20});
+    const auto path = Files::tempPNG(image, 2, folders, afternoon);
+    ASSERT_TRUE(path);
+    EXPECT_TRUE(path->endsWith(u"/Screenshot 2025-03-07 at 14.05.09.png"_s));
+    EXPECT_EQ(QImage(*path).convertToFormat(QImage::Format_RGB32), image);
+    EXPECT_EQ(QFileInfo(QFileInfo(*path).path()).permissions()
+            & ~(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadUser
+                | QFile::WriteUser | QFile::ExeUser),
+        QFile::Permissions());
+    EXPECT_EQ(Files::tempPNG(image, 2, folders, afternoon), path) << "replaced, not numbered";
+    Files::cleanTemporaries(folders);
+    EXPECT_FALSE(QFile::exists(*path));
+    EXPECT_FALSE(Files::tempPNG(QImage(), 2, folders, afternoon));
+}

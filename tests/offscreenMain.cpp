@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+
+/// For tests that need the toolkit but no display: fonts, images, a clipboard of their own.
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
