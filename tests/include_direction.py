@@ -41,7 +41,7 @@ def objection(granted, here, there):
     if other not in granted[folder]:
         return f"{folder} may not include {other}"
     own, asked = back_end_of(here), back_end_of(there)
-    if asked in (None, own) or here.match("platform/Platform*.cpp"):
+    if asked in (None, own) or here.match("platform/*Platform.cpp"):
         return None
     if asked == SHARED_BY_BACK_ENDS and own:
         return None

@@ -17,7 +17,7 @@ TREE = {
     '#include "Menu.h" // WRONG\n#include "Menu.moc"\n',
     "src/platform/Displays.cpp": '#include "platform/x11/Root.h" // WRONG\n'
     '#include "platform/freedesktop/Entries.h" // WRONG\n',
-    "src/platform/PlatformFull.cpp": '#include "platform/x11/Root.h"\n#include "platform/fake/Fake.h"\n',
+    "src/platform/FullPlatform.cpp": '#include "platform/x11/Root.h"\n#include "platform/fake/Fake.h"\n',
     "src/platform/x11/Root.cpp": '#include "platform/x11/Root.h"\n#include "platform/Displays.h"\n'
     '#include "platform/freedesktop/Entries.h"\n#include "platform/wayland/Portal.h" // WRONG\n',
     "src/attic/Old.h": '#include "base/Clock.h" // WRONG\n',

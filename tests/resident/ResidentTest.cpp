@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "tests/desktop/DesktopTest.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+DesktopOptions twoMonitors()
+{
+    DesktopOptions options;
+    options.size = {2304, 900};
+    options.monitors
+        = {{u"L"_s, QRect(0, 0, 1280, 800), 2}, {u"R"_s, QRect(1280, 50, 1024, 768), 1}};
+    options.tray = true;
+    return options;
+}
+
+/// The real programs on a real X server: what a user and a script see of the resident one.
+template <DesktopOptions (*options)()>
+class ResidentDesktop : public DesktopTest<options> {
+protected:
+    using Base = DesktopTest<options>;
+
+    void TearDown() override { pixmallow({u"quit"_s}); }
+
+    VirtualDesktop::Finished pixmallow(const QStringList& arguments)
+    {
+        const auto finished = Base::desktop().run(u"pixmallow"_s, arguments);
+        EXPECT_TRUE(finished) << finished.error().message.toStdString();
+        return finished ? *finished : VirtualDesktop::Finished {-1, {}, {}};
+    }
+
+    QJsonObject capture(const QString& kind)
+    {
+        const auto finished = pixmallow({u"capture"_s, kind, u"--wait"_s, u"--json"_s});
+        EXPECT_EQ(finished.exitCode, 0) << finished.errors.toStdString();
+        return QJsonDocument::fromJson(finished.output).object();
+    }
+
+    QStringList saved() { return saved(QDir::Files); }
+    QStringList saved(QDir::Filters filters)
+    {
+        return QDir(Base::desktop().home() + u"/Pictures/Pixmallow"_s).entryList(filters);
+    }
+
+    QByteArray clipboard(const QString& type)
+    {
+        const auto read = Base::desktop().run(
+            u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-o"_s, u"-t"_s, type});
+        return read ? read->output : QByteArray();
+    }
+};
+
+using ResidentTest = ResidentDesktop<plainDesktop>;
+using TwoMonitorResidentTest = ResidentDesktop<twoMonitors>;
+
+bool equal(const QImage& a, const QImage& b)
+{
+    return a.convertToFormat(QImage::Format_RGB32) == b.convertToFormat(QImage::Format_RGB32);
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+TEST_F(ResidentTest, startsByItselfAndCapturesTheScreenToFileAndClipboard)
+{
+    const auto window = open({u"--pattern"_s, u"1"_s, u"--geometry"_s, u"200,150,600x400"_s});
+    const auto report = capture(u"screen"_s);
+    const QString path = report[u"path"_s].toString();
+    EXPECT_THAT(QFileInfo(path).fileName().toStdString(),
+        testing::MatchesRegex(
+            R"(Screenshot [0-9-]{10} at [0-9]{2}\.[0-9]{2}\.[0-9]{2}( \([0-9]+\))?\.png)"));
+    EXPECT_EQ(report[u"app"_s], u"Screen"_s);
+    EXPECT_TRUE(equal(QImage(path), desktop().rootPixels()));
+    EXPECT_EQ(clipboard(u"image/png"_s), contentOf(path)) << "not the exact bytes";
+    EXPECT_TRUE(equal(QImage::fromData(clipboard(u"image/bmp"_s), "bmp"), desktop().rootPixels()));
+}
+
+TEST_F(ResidentTest, capturesTheWindowLastWorkedIn)
+{
+    const auto first = open({u"--pattern"_s, u"3"_s, u"--class"_s, u"painter,Painter"_s,
+        u"--geometry"_s, u"100,100,400x300"_s});
+    pixmallow({u"capture"_s, u"screen"_s, u"--wait"_s}); // Starts the resident program.
+    const auto second = open({u"--pattern"_s, u"4"_s, u"--class"_s, u"writer,Writer"_s,
+        u"--geometry"_s, u"300,200,400x300"_s});
+    EXPECT_TRUE(waitFor([&] { return capture(u"window"_s)[u"app"_s] == u"Writer"_s; }));
+    desktop().clickAt({110, 110});
+    EXPECT_TRUE(waitFor([&] { return capture(u"window"_s)[u"app"_s] == u"Painter"_s; }));
+}
+
+TEST_F(ResidentTest, refusesWhatIsNotAvailableAndWhatIsTooMuch)
+{
+    EXPECT_EQ(pixmallow({u"capture"_s, u"door"_s}).exitCode, 64);
+    const auto text = pixmallow({u"capture"_s, u"text"_s, u"--wait"_s});
+    EXPECT_EQ(text.exitCode, 2);
+    EXPECT_TRUE(text.errors.contains("not available")) << text.errors.toStdString();
+    EXPECT_EQ(pixmallow({u"capture"_s, u"screen"_s}).exitCode, 0) << "accepted";
+    EXPECT_EQ(pixmallow({u"capture"_s, u"screen"_s, u"--wait"_s}).exitCode, 3) << "busy";
+    EXPECT_TRUE(waitFor([&] { return pixmallow({u"capture"_s, u"screen"_s}).exitCode == 0; }));
+}
+
+TEST_F(ResidentTest, runsOnceHoweverOftenItIsStarted)
+{
+    std::vector<std::unique_ptr<Client>> started;
+    for (int i = 0; i < 4; ++i) {
+        auto client = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
+        ASSERT_TRUE(client);
+        started.push_back(*std::move(client));
+    }
+    const auto running = [&] {
+        return std::count_if(
+            started.begin(), started.end(), [](auto& each) { return each->isRunning(); });
+    };
+    EXPECT_TRUE(waitFor([&] { return running() == 1; }));
+    EXPECT_EQ(capture(u"screen"_s)[u"outcome"_s], u"done"_s);
+
+    auto replacement = desktop().launch(u"pixmallow-desktop"_s, {u"--replace"_s});
+    ASSERT_TRUE(replacement);
+    EXPECT_TRUE(waitFor([&] { return running() == 0; }));
+    EXPECT_EQ(capture(u"screen"_s)[u"outcome"_s], u"done"_s);
+    EXPECT_TRUE((*replacement)->isRunning());
+    for (auto& each : started)
+        EXPECT_EQ(each->exitCode(), 0);
+}
+
+TEST_F(ResidentTest, finishesTheCaptureThatRunsWhenItIsTerminated)
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGKILL}) {
+        const auto before = saved();
+        auto resident = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
+        ASSERT_TRUE(resident);
+        // Answered once it serves; the capture then waits 0.12 s before it reads the screen.
+        EXPECT_TRUE(waitFor([&] { return pixmallow({u"capture"_s, u"screen"_s}).exitCode == 0; }));
+        ::kill(pid_t((*resident)->pid()), signal);
+        ASSERT_TRUE((*resident)->waitForEnd());
+        const bool finished = signal != SIGKILL;
+        EXPECT_EQ(saved().size(), before.size() + (finished ? 1 : 0)) << signal;
+        for (const auto& name : saved(QDir::Files | QDir::Hidden))
+            EXPECT_FALSE(QImage(desktop().home() + u"/Pictures/Pixmallow/"_s + name).isNull())
+                << "half a file: " << name.toStdString();
+    }
+    EXPECT_EQ(capture(u"screen"_s)[u"outcome"_s], u"done"_s) << "after a stale socket";
+}
+
+TEST_F(TwoMonitorResidentTest, capturesTheScreenUnderThePointerAtItsScale)
+{
+    desktop().moveTo({1500, 300});
+    const auto right = capture(u"screen"_s);
+    EXPECT_EQ(right[u"scale"_s], 1);
+    EXPECT_TRUE(
+        equal(QImage(right[u"path"_s].toString()), desktop().rootPixels({1280, 50, 1024, 768})));
+    desktop().moveTo({5, 5});
+    const auto left = capture(u"screen"_s);
+    EXPECT_EQ(left[u"scale"_s], 2);
+    const QImage image(left[u"path"_s].toString());
+    EXPECT_TRUE(equal(image, desktop().rootPixels({0, 0, 1280, 800})));
+    EXPECT_EQ(qRound(image.dotsPerMeterX() * 0.0254), 144);
+}
+
+TEST_F(TwoMonitorResidentTest, leavesItsOwnMenuOutOfCaptures)
+{
+    capture(u"screen"_s);
+    desktop().moveTo({600, 300});
+    const QImage before = desktop().rootPixels({0, 0, 1280, 700});
+    pixmallow({}); // A second start shows the menu.
+    EXPECT_TRUE(waitFor([&] { return !equal(desktop().rootPixels({0, 0, 1280, 700}), before); }));
+    const auto report = capture(u"screen"_s);
+    EXPECT_TRUE(equal(QImage(report[u"path"_s].toString()).copy(0, 0, 1280, 700), before));
+    desktop().key("Escape");
+}
