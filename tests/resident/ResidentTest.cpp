@@ -89,6 +89,17 @@ TEST_F(ResidentTest, startsByItselfAndCapturesTheScreenToFileAndClipboard)
     EXPECT_TRUE(equal(QImage::fromData(clipboard(u"image/bmp"_s), "bmp"), desktop().rootPixels()));
 }
 
+TEST_F(ResidentTest, leavesItsCopyToTheClipboardManagerWhenItEnds)
+{
+    auto manager = desktop().launch(u"clipboard-manager"_s, {});
+    ASSERT_TRUE(manager);
+    ASSERT_FALSE((*manager)->waitForLine("ready").isNull());
+    const auto path = capture(u"screen"_s)[u"path"_s].toString();
+    pixmallow({u"quit"_s});
+    EXPECT_FALSE((*manager)->waitForLine("saved").isNull());
+    EXPECT_EQ(clipboard(u"image/png"_s), contentOf(path));
+}
+
 TEST_F(ResidentTest, capturesTheWindowLastWorkedIn)
 {
     const auto first = open({u"--pattern"_s, u"3"_s, u"--class"_s, u"painter,Painter"_s,
