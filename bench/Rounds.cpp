@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Rounds.h"
 
-#include <time.h>
-
 #include <algorithm>
 #include <cmath>
+#include <ctime>
 
 namespace {
 
@@ -37,6 +36,16 @@ std::vector<double> column(
 
 void Rounds::add(const QString& name, std::function<void()> work)
 {
+    addMeasured(name, [work = std::move(work)] {
+        const Sample before {milliseconds(CLOCK_PROCESS_CPUTIME_ID), milliseconds(CLOCK_MONOTONIC)};
+        work();
+        return Sample {milliseconds(CLOCK_PROCESS_CPUTIME_ID) - before.cpu,
+            milliseconds(CLOCK_MONOTONIC) - before.wall};
+    });
+}
+
+void Rounds::addMeasured(const QString& name, std::function<Sample()> work)
+{
     m_cases.push_back({name, std::move(work), {}});
 }
 
@@ -44,11 +53,7 @@ void Rounds::run(int rounds)
 {
     for (int round = 0; round <= rounds; ++round) {
         for (auto& one : m_cases) {
-            const Sample before {
-                milliseconds(CLOCK_PROCESS_CPUTIME_ID), milliseconds(CLOCK_MONOTONIC)};
-            one.work();
-            const Sample sample {milliseconds(CLOCK_PROCESS_CPUTIME_ID) - before.cpu,
-                milliseconds(CLOCK_MONOTONIC) - before.wall};
+            const Sample sample = one.work();
             if (round > 0)
                 one.samples.push_back(sample);
         }
@@ -70,10 +75,25 @@ double Rounds::medianWall(const QString& name) const
     return quantile(column(samplesOf(name), &Sample::wall), 0.5);
 }
 
+double Rounds::wall95(const QString& name) const
+{
+    return quantile(column(samplesOf(name), &Sample::wall), 0.95);
+}
+
 double Rounds::ratio(const QString& name, const QString& baseline) const
 {
-    auto ratios = column(samplesOf(name), &Sample::cpu);
-    const auto bases = column(samplesOf(baseline), &Sample::cpu);
+    return ratioOf(&Sample::cpu, name, baseline);
+}
+
+double Rounds::wallRatio(const QString& name, const QString& baseline) const
+{
+    return ratioOf(&Sample::wall, name, baseline);
+}
+
+double Rounds::ratioOf(double Sample::*value, const QString& name, const QString& baseline) const
+{
+    auto ratios = column(samplesOf(name), value);
+    const auto bases = column(samplesOf(baseline), value);
     std::transform(ratios.begin(), ratios.end(), bases.begin(), ratios.begin(), std::divides());
     return quantile(ratios, 0.5);
 }

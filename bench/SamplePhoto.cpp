@@ -83,7 +83,8 @@ QImage samplePhoto(QSize size, quint32 seed)
             const auto colour = landscape(float(x) * unit, float(y) * unit, seed);
             const float brightness = sensor(random);
             const auto noisy = [&](float value) {
-                return std::clamp(int(value + brightness + sensor(random) * 0.5f + 0.5f), 0, 255);
+                return std::clamp(
+                    int(std::lround(value + brightness + sensor(random) * 0.5f)), 0, 255);
             };
             const int red = noisy(colour.red);
             const int green = noisy(colour.green);

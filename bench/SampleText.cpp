@@ -114,11 +114,11 @@ QStringList SampleText::code(int lines, quint32 seed)
     return code.first(lines);
 }
 
-QString SampleText::prose(int count, quint32 seed)
+QString SampleText::prose(int words, quint32 seed)
 {
     Author author(seed);
     QString text;
-    for (int i = 0; i < count;) {
+    for (int i = 0; i < words;) {
         const int length = 5 + author.below(14);
         text += author.sentence(length) + u" "_s;
         i += length;
