@@ -5,6 +5,7 @@
 #include "platform/ActiveApplication.h"
 #include "platform/Clipboard.h"
 #include "platform/Platform.h"
+#include "platform/SurfaceTraits.h"
 #include "platform/Workspace.h"
 
 /// All seams to the operating system, for the resident program.
@@ -12,6 +13,7 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<ActiveApplication> activeApplication;
     std::unique_ptr<Clipboard> clipboard;
     std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<SurfaceTraits> surfaces;
     std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
 };
 

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/Result.h"
+#include "platform/SurfaceTraits.h"
+#include "platform/x11/PointerTrail.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+
+/// Over the toolkit's own connection to the X server: keys that are grabbed on another one would
+/// not reach the toolkit's windows.
+class X11SurfaceTraits final : public SurfaceTraits {
+public:
+    /// Fails when the toolkit draws to something else than an X server.
+    static Result<std::unique_ptr<SurfaceTraits>> make();
+
+    void makeOverlay(QWindow& window, const DisplayInfo& display) override;
+    void grabKeyboard(QWindow& window) override;
+    void releaseKeyboard() override;
+    QPoint nativePosition(const QMouseEvent& event, const QWindow& window) const override;
+    void movePointer(QPoint native) override;
+
+private:
+    explicit X11SurfaceTraits(xcb_connection_t* xcb);
+    void tryToGrab();
+
+    xcb_connection_t* m_xcb;
+    PointerTrail m_trail;
+    QPointer<QWindow> m_keyboardTarget; ///< Null while nobody wants the keyboard.
+    QTimer m_retry;
+};
