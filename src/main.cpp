@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppState.h"
 #include "app/ControlServer.h"
+#include "app/Rooms.h"
 #include "app/TerminationSignals.h"
 #include "base/ControlClient.h"
 #include "capture/Files.h"
@@ -59,7 +60,8 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
     prefs.registerDefaults();
     Files::cleanTemporaries(folders);
 
-    AppState state(*platform, prefs, CaptureStages {});
+    Rooms rooms(*platform, prefs);
+    AppState state(*platform, prefs, rooms.stages());
     state.install();
     state.start();
     TrayItem tray(state, prefs);
@@ -71,6 +73,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
         [&state](CaptureKind kind) { return state.captureAndReport(kind); },
         [] { QCoreApplication::quit(); }});
     const int code = QApplication::exec();
+    rooms.cancelQuestions();
     finishCapture(state);
     QCoreApplication::processEvents(); // Whoever waits for that capture still hears of it.
     return code;

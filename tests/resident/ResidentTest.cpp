@@ -153,8 +153,10 @@ TEST_F(ResidentTest, finishesTheCaptureThatRunsWhenItIsTerminated)
         const auto before = saved();
         auto resident = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
         ASSERT_TRUE(resident);
-        // Answered once it serves; the capture then waits 0.12 s before it reads the screen.
-        EXPECT_TRUE(waitFor([&] { return pixmallow({u"capture"_s, u"screen"_s}).exitCode == 0; }));
+        const QString folder = desktop().environment().value(u"XDG_RUNTIME_DIR"_s);
+        ASSERT_TRUE(waitFor([&] { return QFile::exists(folder + u"/pixmallow/control"_s); }));
+        // Accepted, the capture then waits 0.12 s before it reads the screen.
+        EXPECT_EQ(pixmallow({u"capture"_s, u"screen"_s}).exitCode, 0);
         ::kill(pid_t((*resident)->pid()), signal);
         ASSERT_TRUE((*resident)->waitForEnd());
         const bool finished = signal != SIGKILL;
@@ -179,6 +181,60 @@ TEST_F(TwoMonitorResidentTest, capturesTheScreenUnderThePointerAtItsScale)
     const QImage image(left[u"path"_s].toString());
     EXPECT_TRUE(equal(image, desktop().rootPixels({0, 0, 1280, 800})));
     EXPECT_EQ(qRound(image.dotsPerMeterX() * 0.0254), 144);
+}
+
+TEST_F(TwoMonitorResidentTest, capturesTheDraggedRegionToTheDevicePixel)
+{
+    struct Case {
+        QPoint from, to;
+    };
+    const QRect left(0, 0, 1280, 700), right(1280, 50, 1024, 700);
+    const auto window = open({u"--pattern"_s, u"6"_s, u"--geometry"_s, u"100,80,700x500"_s});
+    const auto other = open({u"--pattern"_s, u"7"_s, u"--geometry"_s, u"1400,120,700x500"_s});
+    for (const auto& [from, to] :
+        {Case {{203, 151}, {478, 302}}, Case {{1900, 500}, {1501, 203}}}) {
+        const QRect region = QRect(from, QSize(1, 1)) | QRect(to, QSize(1, 1));
+        const QRect taken(region.topLeft(), region.size() - QSize(1, 1));
+        const QImage before = desktop().rootPixels(taken);
+        const QImage leftBefore = desktop().rootPixels(left);
+        const QImage rightBefore = desktop().rootPixels(right);
+        auto asking = desktop().launch(
+            u"pixmallow"_s, {u"capture"_s, u"region"_s, u"--wait"_s, u"--json"_s});
+        ASSERT_TRUE(asking);
+        ASSERT_TRUE(waitFor([&] {
+            return !equal(desktop().rootPixels(left), leftBefore)
+                && !equal(desktop().rootPixels(right), rightBefore);
+        }));
+        desktop().drag(from, to);
+        ASSERT_TRUE((*asking)->waitForEnd());
+        const auto report = QJsonDocument::fromJson((*asking)->output()).object();
+        EXPECT_EQ(report[u"outcome"_s], u"done"_s) << (*asking)->errors().toStdString();
+        EXPECT_EQ(report[u"scale"_s], from.x() < 1280 ? 2 : 1);
+        EXPECT_TRUE(equal(QImage(report[u"path"_s].toString()), before));
+    }
+}
+
+TEST_F(TwoMonitorResidentTest, endsSilentlyWhenTheSelectionIsCancelledOrTheProgramEnds)
+{
+    const auto before = desktop().rootPixels({0, 0, 1280, 700});
+    const auto ask = [&] {
+        auto asking = desktop().launch(u"pixmallow"_s, {u"capture"_s, u"region"_s, u"--wait"_s});
+        EXPECT_TRUE(waitFor([&] {
+            return !equal(desktop().rootPixels({0, 0, 1280, 700}), before);
+        }));
+        return *std::move(asking);
+    };
+    const auto escaped = ask();
+    EXPECT_EQ(pixmallow({u"capture"_s, u"region"_s, u"--wait"_s}).exitCode, 3);
+    desktop().key("Escape");
+    ASSERT_TRUE(escaped->waitForEnd());
+    EXPECT_EQ(escaped->exitCode(), 1);
+    EXPECT_TRUE(waitFor([&] { return equal(desktop().rootPixels({0, 0, 1280, 700}), before); }));
+
+    const auto interrupted = ask();
+    pixmallow({u"quit"_s});
+    ASSERT_TRUE(interrupted->waitForEnd());
+    EXPECT_EQ(interrupted->exitCode(), 1);
 }
 
 TEST_F(TwoMonitorResidentTest, leavesItsOwnMenuOutOfCaptures)

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/CaptureStages.h"
+#include "base/Prefs.h"
+#include "overlay/RegionOverlay.h"
+#include "platform/DesktopPlatform.h"
+
+/// The rooms along a capture's way, each made once, and how the coordinator reaches them.
+class Rooms final {
+public:
+    Rooms(DesktopPlatform& platform, const Prefs& prefs);
+
+    CaptureStages stages();
+
+    /// Takes back what the user is being asked; whoever waits for it hears Cancelled.
+    void cancelQuestions() { m_overlay.reset(); }
+
+private:
+    Pending<RegionResult> selectRegion(const RegionQuestion& question);
+
+    DesktopPlatform& m_platform;
+    const Prefs& m_prefs;
+    OverlayPool m_overlayPool;
+    std::unique_ptr<RegionOverlay> m_overlay; ///< Of the last selection.
+};
