@@ -74,14 +74,13 @@ qint64 OverlayWindow::paintNow()
         m_store.resize(points);
     const QRegion changed = std::exchange(m_changed, {});
     m_store.beginPaint(pointsAround(changed, scale));
-    auto* const device = m_store.paintDevice();
-    if (device && device->devType() == QInternal::Image) {
-        // Its pixels without its scale: the view works in device pixels.
-        auto& store = static_cast<QImage&>(*device);
-        QImage target(store.bits(), store.width(), store.height(), store.bytesPerLine(),
-            QImage::Format_RGB32);
-        m_view->paint(target, changed & target.rect());
-    }
+    // A raster surface is painted on an image. Its pixels without its scale, as the view works in
+    // device pixels.
+    Q_ASSERT(m_store.paintDevice()->devType() == QInternal::Image);
+    auto& image = static_cast<QImage&>(*m_store.paintDevice());
+    QImage target(
+        image.bits(), image.width(), image.height(), image.bytesPerLine(), QImage::Format_RGB32);
+    m_view->paint(target, changed & target.rect());
     m_store.endPaint();
     flush(changed);
     return areaOf(changed);

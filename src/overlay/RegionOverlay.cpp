@@ -98,7 +98,6 @@ bool RegionOverlay::eventFilter(QObject* object, QEvent* event)
     switch (event->type()) {
     case QEvent::MouseMove:
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
         handleMouse(static_cast<QMouseEvent&>(*event), static_cast<QWindow&>(*object));
         return true;

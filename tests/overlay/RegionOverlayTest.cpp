@@ -18,6 +18,13 @@ DesktopOptions twoMonitors()
     return options;
 }
 
+DesktopOptions compositedFractions()
+{
+    DesktopOptions options = twoMonitors<150, 175>();
+    options.compositor = Compositor::Picom;
+    return options;
+}
+
 DesktopOptions withPanel()
 {
     DesktopOptions options;
@@ -29,7 +36,7 @@ using RegionOverlayTest = DesktopTest<>;
 using PanelOverlayTest = DesktopTest<withPanel>;
 using MixedOverlayTest = DesktopTest<twoMonitors<100, 200>>;
 using SharpFirstOverlayTest = DesktopTest<twoMonitors<200, 100>>;
-using FractionOverlayTest = DesktopTest<twoMonitors<150, 175>>;
+using FractionOverlayTest = DesktopTest<compositedFractions>;
 
 QImage wallpaper(QSize size)
 {
@@ -73,11 +80,10 @@ QRect frameOf(const VirtualDesktop& desktop, const ClientWindow& window)
 /// The demo program, with which a person makes one selection after the other.
 class Selections final {
 public:
-    explicit Selections(VirtualDesktop& desktop)
-        : m_desktop(desktop)
-        , m_file(desktop.home() + u"/region.png"_s)
+    explicit Selections(const VirtualDesktop& desktop, const QStringList& options = {})
+        : m_file(desktop.home() + u"/region.png"_s)
     {
-        auto demo = desktop.launch(u"overlay-demo"_s, {m_file});
+        auto demo = desktop.launch(u"overlay-demo"_s, QStringList(m_file) + options);
         EXPECT_TRUE(demo) << demo.error().message.toStdString();
         m_demo = *std::move(demo);
     }
@@ -105,10 +111,10 @@ public:
         return testing::AssertionSuccess();
     }
 
+    bool isActive() { return !m_demo->waitForLine("active").isNull(); }
     bool isOpen() { return m_demo->waitForLine("", std::chrono::milliseconds(150)).isNull(); }
 
 private:
-    VirtualDesktop& m_desktop;
     QString m_file;
     std::unique_ptr<Client> m_demo;
 };
@@ -303,6 +309,15 @@ TEST_F(RegionOverlayTest, isCancelledWhenTheScreensChange)
     EXPECT_TRUE(desktop().addMonitor(half));
     EXPECT_TRUE(selections.isCancelled());
     EXPECT_TRUE(desktop().removeMonitor(half.name));
+}
+
+TEST_F(RegionOverlayTest, hearsKeysWhileAnotherWindowOfOursIsActive)
+{
+    Selections selections(desktop(), {u"--window"_s});
+    EXPECT_TRUE(selections.isActive());
+    selections.begin();
+    desktop().key("Escape");
+    EXPECT_TRUE(selections.isCancelled());
 }
 
 TEST_F(RegionOverlayTest, waitsForAKeyboardThatIsHeldElsewhere)

@@ -7,6 +7,7 @@
 #include <QCoro/QCoroTask>
 #include <QGuiApplication>
 #include <QSocketNotifier>
+#include <QWindow>
 
 #include <cstdio>
 #include <iostream>
@@ -73,20 +74,25 @@ private:
 
 } // namespace
 
-// usage: overlay-demo FILE
+// usage: overlay-demo FILE [--window]
 // For each line of standard input, which is the purpose of it, has a region selected. Writes
-// "shown"; then "taken WxH" when the region's picture is in FILE, a PNG; or "cancelled".
+// "shown"; then "taken WxH" when the region's picture is in FILE, a PNG; or "cancelled". With
+// --window it has an ordinary window besides, and writes "active" when that is the active one.
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
     auto platform = makeDesktopPlatform();
-    if (!platform || argc != 2) {
+    if (!platform || argc < 2) {
         std::fprintf(stderr, "overlay-demo: %s\n",
-            platform ? "takes one file" : qPrintable(platform.error().message));
+            platform ? "takes a file" : qPrintable(platform.error().message));
         return 2;
     }
     Prefs prefs(Folders::ofUser());
     prefs.registerDefaults();
     const Demo demo(*platform, prefs, QString::fromLocal8Bit(argv[1]));
+    QWindow window;
+    QObject::connect(&window, &QWindow::activeChanged, [] { tell(u"active"_s); });
+    if (QGuiApplication::arguments().contains(u"--window"_s))
+        window.show();
     return QGuiApplication::exec();
 }
