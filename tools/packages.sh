@@ -36,10 +36,18 @@ as_root() {
 
 # apt_get ARGUMENT...: speaks only if it fails. Waits for whoever else is installing.
 apt_get() {
-    local log status=0
+    local log status deadline=$((SECONDS + 120))
     log=$(mktemp)
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=120 \
-        "$@" >"$log" 2>&1 </dev/null || status=$?
+    while true; do
+        status=0
+        as_root env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -qq \
+            -o DPkg::Lock::Timeout=120 "$@" >"$log" 2>&1 </dev/null || status=$?
+        # By itself it waits for one of its locks, but not for that on the package lists.
+        if ((status == 0 || SECONDS >= deadline)) || ! grep -q 'Could not get lock' "$log"; then
+            break
+        fi
+        sleep 1
+    done
     if ((status != 0)); then
         cat "$log" >&2
     fi

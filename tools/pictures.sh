@@ -31,4 +31,14 @@ take_pictures() {
         for _ in {1..100}; do [ -e listed ] && break; sleep 0.1; done
         sleep 0.5
         pixmallow shot --cursor --output "$picture"'
+
+    # shellcheck disable=SC2016
+    picture region 1440x900 '
+        pixmallow capture region --wait &
+        sleep 1.5
+        xdotool mousemove 620 300 mousedown 1 mousemove 700 400 mousemove 1016 618
+        sleep 0.5
+        scrot -o "$picture"
+        xdotool key Escape
+        wait || true'
 }
