@@ -92,6 +92,8 @@ struct PrefKeys final : PrefTable {
     PrefKey<QDateTime> lastUpdateCheck {*this, "lastUpdateCheck", {}, WhenAbsent};
     PrefKey<QString> skipVersion {*this, "skipVersion", "", WhenAbsent};
     // The order above is settled; whatever comes later stands below this line.
+    /// Whether shortcuts also work while an open menu has the keyboard.
+    PrefKey<bool> captureOpenMenus {*this, "captureOpenMenus", false, WhenAbsent};
 
     /// The shortcut of a capture kind, given as its text such as "region"; null for any other text.
     const PrefKey<QString>* hotkey(QStringView kind) const;
