@@ -26,8 +26,9 @@ A window for tests. Its standard output tells what happens to it, its standard i
   --fullscreen
   --minimized
 Lines it writes: mapped 0xID (on screen, painted and managed), unmapped, geometry X,Y,WxH,
-  focus in, focus out, key CHORD, released KEY, press BUTTON X,Y, release BUTTON X,Y
-Lines it reads: raise, lower, move X Y, resize W H, unmap, map, close
+  focus in, focus out, key CHORD, released KEY, press BUTTON X,Y, release BUTTON X,Y,
+  keyboard grabbed, keyboard not grabbed, keyboard ungrabbed
+Lines it reads: raise, lower, move X Y, resize W H, unmap, map, grab keyboard, ungrab keyboard, close
 )";
 
 [[noreturn]] void refuse(const std::string& what)

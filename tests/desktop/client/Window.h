@@ -37,6 +37,7 @@ private:
 
     xcb_atom_t atom(const std::string& name) const;
     std::vector<std::uint32_t> property(xcb_window_t window, const char* name) const;
+    void grabKeyboard(); ///< As an open menu does.
     void configure(std::uint16_t mask, const std::vector<std::uint32_t>& values);
 
     xcb_connection_t* m_connection;

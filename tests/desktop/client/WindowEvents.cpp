@@ -182,6 +182,11 @@ bool Window::obey(const std::string& command)
         xcb_map_window(m_connection, m_window);
     } else if (command == "unmap") {
         xcb_unmap_window(m_connection, m_window);
+    } else if (command == "grab keyboard") {
+        grabKeyboard();
+    } else if (command == "ungrab keyboard") {
+        xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
+        tell("keyboard ungrabbed");
     } else if (command == "close") {
         m_open = false;
     } else {
@@ -189,6 +194,15 @@ bool Window::obey(const std::string& command)
     }
     xcb_flush(m_connection);
     return m_open;
+}
+
+void Window::grabKeyboard()
+{
+    const auto cookie = xcb_grab_keyboard(
+        m_connection, 1, m_window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const auto reply = owned(xcb_grab_keyboard_reply(m_connection, cookie, nullptr));
+    const bool grabbed = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+    tell(grabbed ? "keyboard grabbed" : "keyboard not grabbed");
 }
 
 void Window::configure(std::uint16_t mask, const std::vector<std::uint32_t>& values)
