@@ -6,6 +6,7 @@
 #include "platform/freedesktop/ToolkitClipboard.h"
 #include "platform/x11/OwnWindowMarker.h"
 #include "platform/x11/X11ActiveApplication.h"
+#include "platform/x11/X11Hotkeys.h"
 #include "platform/x11/X11SurfaceTraits.h"
 
 Result<DesktopPlatform> makeDesktopPlatform()
@@ -19,11 +20,15 @@ Result<DesktopPlatform> makeDesktopPlatform()
     auto surfaces = X11SurfaceTraits::make();
     if (!surfaces)
         return surfaces.error();
-    DesktopPlatform platform {*std::move(capture), {}, {}, {}, {}, {}};
+    auto keyboard = X11Connection::open();
+    if (!keyboard)
+        return keyboard.error();
+    DesktopPlatform platform {*std::move(capture), {}, {}, {}, {}, {}, {}};
     platform.activeApplication = std::make_unique<X11ActiveApplication>(*listening);
     platform.clipboard = std::make_unique<ToolkitClipboard>();
     platform.workspace = std::make_unique<DesktopWorkspace>();
     platform.surfaces = *std::move(surfaces);
+    platform.hotkeys = std::make_unique<X11Hotkeys>(*keyboard);
     platform.ownWindows = std::make_unique<OwnWindowMarker>();
     return platform;
 }

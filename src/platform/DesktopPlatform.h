@@ -4,6 +4,7 @@
 
 #include "platform/ActiveApplication.h"
 #include "platform/Clipboard.h"
+#include "platform/Hotkeys.h"
 #include "platform/Platform.h"
 #include "platform/SurfaceTraits.h"
 #include "platform/Workspace.h"
@@ -14,6 +15,7 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<Clipboard> clipboard;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<SurfaceTraits> surfaces;
+    std::unique_ptr<Hotkeys> hotkeys;
     std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
 };
 

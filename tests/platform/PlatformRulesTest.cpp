@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
 #include "platform/DrawnShadow.h"
+#include "platform/KeyCodes.h"
 #include "platform/freedesktop/DesktopEntries.h"
 #include "platform/x11/DisplayScale.h"
 
@@ -68,6 +69,20 @@ TEST(DesktopEntriesTest, findsTheNameByDeclaredClassThenByFileName)
     EXPECT_EQ(name(u"unknown"_s, u"toolbox"_s), u"kde-tool: My tool"_s);
     EXPECT_EQ(name({}), QString());
     EXPECT_EQ(name(u"broken"_s), QString());
+}
+
+TEST(KeyCodesTest, noPlaceBelongsToTwoKeys)
+{
+    int places = 0;
+    for (std::uint32_t code = 0; code < 256; ++code)
+        for (const auto position : keyPositions(code)) {
+            EXPECT_EQ(keyCodeAt(position), code);
+            ++places;
+        }
+    for (std::uint32_t position = 0; position < 256; ++position)
+        places -= keyCodeAt(position).has_value();
+    EXPECT_EQ(places, 0);
+    EXPECT_TRUE(keyPositions(4294967295).empty());
 }
 
 TEST(DrawnShadowTest, liesOutsideTheWindowAndFallsOffSmoothly)

@@ -4,6 +4,7 @@
 
 #include "base/Bitmap.h"
 #include "platform/DesktopPlatform.h"
+#include "platform/fake/FakeHotkeys.h"
 
 #include <algorithm>
 
@@ -113,6 +114,7 @@ struct FakePlatform : DesktopPlatform {
         activeApplication = std::make_unique<FakeActiveApplication>();
         clipboard = std::make_unique<FakeClipboard>();
         workspace = std::make_unique<FakeWorkspace>();
+        hotkeys = std::make_unique<FakeHotkeys>();
     }
 
     FakeDisplays& fakeDisplays() { return static_cast<FakeDisplays&>(*displays); }
@@ -123,4 +125,5 @@ struct FakePlatform : DesktopPlatform {
     }
     FakeClipboard& fakeClipboard() { return static_cast<FakeClipboard&>(*clipboard); }
     FakeWorkspace& fakeWorkspace() { return static_cast<FakeWorkspace&>(*workspace); }
+    FakeHotkeys& fakeHotkeys() { return static_cast<FakeHotkeys&>(*hotkeys); }
 };
