@@ -20,6 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr char hiddenPrefix[] = ".pixmallow-";
+constexpr char hiddenSuffix[] = ".part";
+
 /// Repeats a system call that a signal interrupted.
 template <typename Call>
 auto retried(Call call)
@@ -39,8 +42,8 @@ QByteArray folderOf(const QByteArray& path)
 QByteArray hiddenNameBeside(const QByteArray& target)
 {
     // Not derived from the target's name, which may already have the longest length allowed.
-    return folderOf(target) + "/.pixmallow-"
-        + QByteArray::number(QRandomGenerator::system()->generate64(), 36) + ".part";
+    return folderOf(target) + '/' + hiddenPrefix
+        + QByteArray::number(QRandomGenerator::system()->generate64(), 36) + hiddenSuffix;
 }
 
 /// The descriptor that a path such as /dev/stdout stands for, or -1. Opened by its path it would
@@ -230,6 +233,12 @@ Result<void> AtomicFile::failed(int reason)
     m_failure = Error {reason == EEXIST ? Error::Kind::Exists : Error::Kind::Failed,
         u"Couldn't write “%1”: %2."_s.arg(m_path, reasonText(reason, m_path))};
     return *m_failure;
+}
+
+bool isUnfinishedFile(QStringView name)
+{
+    return name.startsWith(QLatin1String(hiddenPrefix))
+        && name.endsWith(QLatin1String(hiddenSuffix));
 }
 
 Result<void> writeFile(const QString& path, const QByteArray& content, AtomicFile::Options options)

@@ -56,5 +56,9 @@ private:
     std::optional<Error> m_failure;
 };
 
+/// Whether a file of this name may be what a write left behind that was killed. Only for folders in
+/// which nobody is writing.
+bool isUnfinishedFile(QStringView name);
+
 /// All of a file at once.
 Result<void> writeFile(const QString& path, const QByteArray& content, AtomicFile::Options options);

@@ -3,6 +3,7 @@
 #include "base/Prefs.h"
 
 #include "base/AtomicFile.h"
+#include "base/SetAside.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -54,20 +55,6 @@ Result<std::optional<QJsonObject>> readContent(const QString& path)
     if (!document.isObject() && !text.trimmed().isEmpty())
         return std::optional<QJsonObject>();
     return std::optional(document.object());
-}
-
-/// Moves a file out of the way, over none that was moved before.
-Result<void> setAside(const QString& path)
-{
-    const QString name
-        = path + u".damaged-"_s + QDateTime::currentDateTime().toString(u"yyyy-MM-dd-HHmmss"_s);
-    QString free = name;
-    for (int i = 2; !QFile::rename(path, free); ++i) {
-        if (!QFileInfo::exists(free))
-            return Error::failed(u"Couldn't set the damaged file “%1” aside."_s.arg(path));
-        free = name + u'-' + QString::number(i);
-    }
-    return {};
 }
 
 } // namespace
