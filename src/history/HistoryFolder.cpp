@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "history/HistoryFolder.h"
+
+#include "base/AtomicFile.h"
+#include "base/SetAside.h"
+#include "history/HistoryIndex.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <dirent.h>
+#include <unistd.h>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr AtomicFile::Options ownerOnly {
+    AtomicFile::Existing::Replace, AtomicFile::Access::OwnerOnly};
+
+const QString copySuffix = u".png"_s;
+
+/// A write that is cut off leaves one file behind. Where there are many, something else happened,
+/// such as an older index put back, and they are not ours to remove.
+constexpr qsizetype mostStrays = 4;
+
+/// One system call, as it is made for every entry at start.
+bool exists(const QString& path)
+{
+    return access(QFile::encodeName(path).constData(), F_OK) == 0;
+}
+
+/// Without looking at each file, as the toolkit's listing would.
+QStringList namesIn(const QString& folder)
+{
+    QStringList names;
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(
+        opendir(QFile::encodeName(folder).constData()), closedir);
+    while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
+        names.append(QFile::decodeName(entry->d_name));
+    return names;
+}
+
+} // namespace
+
+HistoryFolder::HistoryFolder(const Folders& folders)
+    : m_dataFolder(folders.data)
+    , m_formerFolder(QFileInfo(folders.data).path() + u"/Glimmerbox"_s)
+    , m_folder(folders.data + u"/History"_s)
+    , m_indexPath(m_folder + u"/index.json"_s)
+{
+}
+
+HistoryFolder::Content HistoryFolder::open()
+{
+    if (QFileInfo(m_formerFolder).isDir() && !exists(m_dataFolder))
+        QDir().rename(m_formerFolder, m_dataFolder);
+    Content content;
+    if (!ensurePrivateFolder(m_folder) || !exists(m_indexPath))
+        return content;
+    const auto text = readIndex();
+    auto items = text ? HistoryIndex::parse(*text) : std::nullopt;
+    if (!items) {
+        m_indexIsDamaged = !setAside(m_indexPath);
+        return content;
+    }
+    content.items.reserve(items->size());
+    for (auto& item : *items) {
+        const QString path = located(item);
+        if (path.isEmpty()) {
+            content.gone.append(item.id);
+            continue;
+        }
+        content.isMoved |= path != item.path;
+        item.path = path;
+        content.items.append(std::move(item));
+    }
+    removeStrays(content.items);
+    return content;
+}
+
+std::optional<QByteArray> HistoryFolder::readIndex()
+{
+    QFile file(m_indexPath);
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray text = file.readAll();
+    return file.error() == QFile::NoError ? std::optional(std::move(text)) : std::nullopt;
+}
+
+QString HistoryFolder::located(const HistoryItem& item) const
+{
+    if (exists(item.path))
+        return item.path;
+    if (item.path.startsWith(m_formerFolder + u'/')) {
+        const QString moved = m_dataFolder + item.path.mid(m_formerFolder.size());
+        if (exists(moved))
+            return moved;
+    }
+    // The user's home may have another name now.
+    const QString copy = copyPath(item.id);
+    return item.cached && isHistoryId(item.id) && exists(copy) ? copy : QString();
+}
+
+void HistoryFolder::removeStrays(const QList<HistoryItem>& items) const
+{
+    QSet<QString> kept;
+    for (const auto& item : items)
+        if (holdsCopyOf(item))
+            kept.insert(item.id + copySuffix);
+    QStringList strays;
+    const QStringList names = namesIn(m_folder);
+    for (const QString& name : names) {
+        if (name.startsWith(u"index.json.damaged-"_s))
+            return; // What it names may be wanted again.
+        const bool isCopy = name.endsWith(copySuffix)
+            && isHistoryId(QStringView(name).chopped(copySuffix.size()));
+        if (isUnfinishedFile(name) || (isCopy && !kept.contains(name)))
+            strays.append(name);
+    }
+    if (strays.size() <= mostStrays)
+        for (const QString& name : strays)
+            QFile::remove(m_folder + u'/' + name);
+}
+
+Result<void> HistoryFolder::writeIndex(const QByteArray& text)
+{
+    if (const auto usable = ensurePrivateFolder(m_folder); !usable)
+        return usable;
+    if (m_indexIsDamaged && exists(m_indexPath))
+        if (const auto moved = setAside(m_indexPath); !moved)
+            return moved;
+    m_indexIsDamaged = false;
+    return writeFile(m_indexPath, text, ownerOnly);
+}
+
+QString HistoryFolder::copyPath(const QString& id) const
+{
+    return m_folder + u'/' + id + copySuffix;
+}
+
+bool HistoryFolder::holdsCopyOf(const HistoryItem& item) const
+{
+    return item.cached && isHistoryId(item.id) && item.path == copyPath(item.id);
+}
+
+Result<void> HistoryFolder::writeCopy(const QString& id, const QByteArray& png)
+{
+    if (!isHistoryId(id))
+        return Error::failed(u"Couldn't keep a copy of “%1”: this is no name for one."_s.arg(id));
+    if (const auto usable = ensurePrivateFolder(m_folder); !usable)
+        return usable;
+    return writeFile(copyPath(id), png, ownerOnly);
+}
+
+void HistoryFolder::removeCopy(const HistoryItem& item)
+{
+    if (holdsCopyOf(item))
+        QFile::remove(item.path);
+}
