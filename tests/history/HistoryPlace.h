@@ -14,14 +14,19 @@
 class HistoryPlace {
 public:
     HistoryPlace()
+        : HistoryPlace(std::make_unique<QTemporaryDir>())
     {
-        m_prefs.registerDefaults();
-        QDir().mkpath(pictures());
+    }
+    /// In a folder that is there; it stays.
+    explicit HistoryPlace(const QString& root)
+        : HistoryPlace(nullptr, root)
+    {
     }
 
-    QString root() const { return m_root.path(); }
+    QString root() const { return m_root; }
     QString pictures() const { return root() + QStringLiteral("/pictures"); }
     QString folder() const { return root() + QStringLiteral("/data/Pixmallow/History"); }
+    QString thumbnails() const { return root() + QStringLiteral("/cache/Pixmallow/Thumbnails"); }
     QString indexPath() const { return folder() + QStringLiteral("/index.json"); }
     Folders folders() const
     {
@@ -70,7 +75,16 @@ public:
     QDateTime now {QDate(2023, 3, 8), QTime(20, 26, 40, 500), Qt::UTC};
 
 private:
-    const QTemporaryDir m_root;
+    explicit HistoryPlace(std::unique_ptr<QTemporaryDir> temporary, const QString& root = {})
+        : m_temporary(std::move(temporary))
+        , m_root(m_temporary ? m_temporary->path() : root)
+    {
+        m_prefs.registerDefaults();
+        QDir().mkpath(pictures());
+    }
+
+    const std::unique_ptr<QTemporaryDir> m_temporary;
+    const QString m_root;
     Prefs m_prefs {folders(), Prefs::Watch::Nothing};
     std::unique_ptr<HistoryStore> m_store;
 };
@@ -86,6 +100,12 @@ inline QImage sampleImage(int number, QSize size = {6, 4})
 inline QByteArray pngOf(const QImage& image)
 {
     return *Files::encode(image, ImageType::Png, 1);
+}
+
+/// PIXMALLOW_SOAK=100 multiplies the rounds by a hundred.
+inline int soaked(int rounds)
+{
+    return rounds * std::max(1, qEnvironmentVariableIntValue("PIXMALLOW_SOAK"));
 }
 
 /// Runs the event loop until something has come true, for at most ten seconds.
