@@ -60,8 +60,12 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
     prefs.registerDefaults();
     Files::cleanTemporaries(folders);
 
-    Rooms rooms(*platform, prefs);
-    AppState state(*platform, prefs, rooms.stages());
+    HistoryStore history(folders, prefs);
+    history.install();
+    Rooms rooms(*platform, prefs, history);
+    HotkeyCenter hotkeys(*platform->hotkeys);
+    hotkeys.install();
+    AppState state(*platform, prefs, hotkeys, rooms.stages());
     state.install();
     state.start();
     TrayItem tray(state, prefs);

@@ -38,9 +38,11 @@ void pass(const std::function<void(Parameters...)>& stage, Arguments&&... argume
 
 } // namespace
 
-AppState::AppState(DesktopPlatform& platform, Prefs& prefs, CaptureStages stages)
+AppState::AppState(
+    DesktopPlatform& platform, Prefs& prefs, HotkeyCenter& hotkeys, CaptureStages stages)
     : m_platform(platform)
     , m_prefs(prefs)
+    , m_hotkeys(hotkeys)
     , m_stages(std::move(stages))
     , m_shots(*platform.displays, *platform.capture, prefs)
 {
@@ -71,6 +73,32 @@ void AppState::follow(const Application& application)
 {
     if (application.id != ownApplicationId)
         m_lastOtherApp = application;
+}
+
+void AppState::adoptPreference(const QString& key)
+{
+    if (key.startsWith(u"hk."_s) || key == QLatin1String(Prefs::keys.captureOpenMenus.name))
+        registerHotkeys();
+}
+
+void AppState::registerHotkeys()
+{
+    m_hotkeys.unregisterAll();
+    for (const auto& info : captureKinds)
+        if (const auto combo = hotkey(info.kind))
+            m_hotkeys.registerCombo(*combo, [this, kind = info.kind] { capture(kind); });
+    m_platform.hotkeys->setSeesGrabbedKeyboards(m_prefs.get(Prefs::keys.captureOpenMenus));
+}
+
+std::optional<KeyCombo> AppState::hotkey(CaptureKind kind) const
+{
+    return KeyCombo::fromText(m_prefs.get(*Prefs::keys.hotkey(QString(infoOf(kind).key))));
+}
+
+QString AppState::hotkeyLabel(CaptureKind kind) const
+{
+    const auto combo = hotkey(kind);
+    return combo ? combo->display() : QString();
 }
 
 bool AppState::isAvailable(CaptureKind kind) const

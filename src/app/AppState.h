@@ -8,6 +8,7 @@
 #include "base/Prefs.h"
 #include "capture/ShotTaker.h"
 #include "platform/DesktopPlatform.h"
+#include "shortcuts/HotkeyCenter.h"
 
 #include <QObject>
 
@@ -17,13 +18,22 @@ class AppState final : public QObject {
     Q_OBJECT
 
 public:
-    AppState(DesktopPlatform& platform, Prefs& prefs, CaptureStages stages);
+    AppState(DesktopPlatform& platform, Prefs& prefs, HotkeyCenter& hotkeys, CaptureStages stages);
 
     static AppState& shared(); ///< The one that install() was called on.
     void install();
 
-    /// Begins to follow which program the user works in; asks for permission if there is none.
+    /// Begins to follow which program the user works in and to listen to the shortcuts; asks for
+    /// permission if there is none.
     void start();
+
+    /// Builds the shortcuts of all kinds anew from the preferences. One that the system refuses
+    /// does nothing.
+    void registerHotkeys();
+
+    /// The shortcut of a kind; none where the user has cleared it.
+    std::optional<KeyCombo> hotkey(CaptureKind kind) const;
+    QString hotkeyLabel(CaptureKind kind) const; ///< As menus show it; may be empty.
 
     /// Takes a capture; ignored while another one runs.
     void capture(CaptureKind kind);
@@ -48,6 +58,7 @@ Q_SIGNALS:
 
 private:
     void follow(const Application& application);
+    void adoptPreference(const QString& key);
     QCoro::Task<> run(CaptureKind kind, Pending<CaptureReport>::Answer answer);
     QCoro::Task<Result<Shot>> take(CaptureKind kind);
     QCoro::Task<Result<Shot>> captureFrontWindow();
@@ -60,6 +71,7 @@ private:
 
     DesktopPlatform& m_platform;
     Prefs& m_prefs;
+    HotkeyCenter& m_hotkeys;
     const CaptureStages m_stages;
     ShotTaker m_shots;
     std::optional<FinishedCapture> m_last;

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/Rooms.h"
 
-Rooms::Rooms(DesktopPlatform& platform, const Prefs& prefs)
+Rooms::Rooms(DesktopPlatform& platform, const Prefs& prefs, HistoryStore& history)
     : m_platform(platform)
     , m_prefs(prefs)
+    , m_history(history)
     , m_overlayPool(*platform.surfaces)
 {
 }
@@ -13,6 +14,9 @@ CaptureStages Rooms::stages()
 {
     CaptureStages stages;
     stages.selectRegion = [this](const RegionQuestion& question) { return selectRegion(question); };
+    stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
+        return m_history.add(shot.image, shot.scale, path, shot.app, png);
+    };
     return stages;
 }
 

@@ -4,13 +4,14 @@
 
 #include "app/CaptureStages.h"
 #include "base/Prefs.h"
+#include "history/HistoryStore.h"
 #include "overlay/RegionOverlay.h"
 #include "platform/DesktopPlatform.h"
 
 /// The rooms along a capture's way, each made once, and how the coordinator reaches them.
 class Rooms final {
 public:
-    Rooms(DesktopPlatform& platform, const Prefs& prefs);
+    Rooms(DesktopPlatform& platform, const Prefs& prefs, HistoryStore& history);
 
     CaptureStages stages();
 
@@ -22,6 +23,7 @@ private:
 
     DesktopPlatform& m_platform;
     const Prefs& m_prefs;
+    HistoryStore& m_history;
     OverlayPool m_overlayPool;
     std::unique_ptr<RegionOverlay> m_overlay; ///< Of the last selection.
 };

@@ -50,7 +50,7 @@ protected:
     AppState& state()
     {
         if (!m_state) {
-            m_state = std::make_unique<AppState>(platform, prefs, stages);
+            m_state = std::make_unique<AppState>(platform, prefs, hotkeys, stages);
             m_state->start();
         }
         return *m_state;
@@ -72,6 +72,7 @@ protected:
     Prefs prefs {Folders {.configuration = folder.filePath(u"config"_s), .pictures = folder.path()},
         Prefs::Watch::Nothing};
     FakePlatform platform;
+    HotkeyCenter hotkeys {*platform.hotkeys};
     CaptureStages stages;
     QStringList steps;
     QList<ToastMessage> toasts;
@@ -222,6 +223,24 @@ TEST_F(AppStateTest, toastsAFailureWithItsReason)
     EXPECT_EQ(capture(CaptureKind::Screen).outcome, Outcome::Cancelled)
         << "no screen is no failure";
     EXPECT_EQ(toasts.size(), 1);
+}
+
+TEST_F(AppStateTest, listensToTheShortcutsAsTheyArePreferred)
+{
+    auto& system = platform.fakeHotkeys();
+    system.refused = {KeyCombo::fromText(u"19:4608:2")->chord()};
+    EXPECT_EQ(state().hotkeyLabel(CaptureKind::Screen), u"⌃⇧3"_s);
+    EXPECT_EQ(system.registered.size(), 4) << "a refused one leaves the others alone";
+    system.press(system.registered.key(KeyCombo::fromText(u"20:4608:3")->chord()));
+    EXPECT_FALSE(state().isBusy()) << "not within the event";
+    while (!state().last())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+
+    prefs.set(Prefs::keys.hkScreen, u""_s);
+    prefs.set(Prefs::keys.captureOpenMenus, true);
+    EXPECT_EQ(system.registered.size(), 3);
+    EXPECT_TRUE(system.seesGrabbedKeyboards);
+    EXPECT_EQ(state().hotkeyLabel(CaptureKind::Screen), QString());
 }
 
 TEST_F(AppStateTest, asksForPermissionFirst)
