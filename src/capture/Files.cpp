@@ -67,9 +67,37 @@ Result<QByteArray> encodeJpeg(const QImage& image, double scale)
     return bytes;
 }
 
+struct FreeName {
+    QString path;
+    int number;
+};
+
+/// The first name from a number on that nothing has, not even a link that leads nowhere.
+FreeName nameFrom(int number, const QString& folder, const QString& extension,
+    const QString& prefix, const QDateTime& time)
+{
+    const QString base = folder + u'/' + FileNames::dated(prefix, time);
+    for (;; ++number) {
+        const QFileInfo candidate(FileNames::numbered(base, number, extension));
+        if (!candidate.exists() && !candidate.isSymLink())
+            return {candidate.filePath(), number};
+    }
+}
+
+/// On the disk: the runtime folder is memory, too small for many screens, and the shared temporary
+/// folder may be.
 QString temporaryFolder(const Folders& folders)
 {
     return folders.cache + u"/Temporary"_s;
+}
+
+Result<void> encodeTo(
+    const QString& path, const QImage& image, double scale, AtomicFile::Access access)
+{
+    const auto bytes = Files::encode(image, Files::imageType(QFileInfo(path).suffix()), scale);
+    if (!bytes)
+        return bytes.error();
+    return writeFile(path, *bytes, {AtomicFile::Existing::Replace, access});
 }
 
 } // namespace
@@ -84,12 +112,7 @@ QString Files::nextURL(
     const QString& folder, const QString& extension, const QString& prefix, const QDateTime& time)
 {
     ensureFolder(folder);
-    const QString base = folder + u'/' + FileNames::dated(prefix, time);
-    for (int number = 1;; ++number) {
-        const QString candidate = FileNames::numbered(base, number, extension);
-        if (!QFileInfo::exists(candidate))
-            return candidate;
-    }
+    return nameFrom(1, folder, extension, prefix, time).path;
 }
 
 void Files::ensureFolder(const QString& folder)
@@ -106,23 +129,22 @@ Result<QByteArray> Files::encode(const QImage& image, ImageType type, double sca
 
 Result<void> Files::write(const QImage& image, const QString& path, double scale)
 {
-    const auto bytes = encode(image, imageType(QFileInfo(path).suffix()), scale);
-    if (!bytes)
-        return bytes.error();
-    return writeFile(path, *bytes, {AtomicFile::Existing::Replace, AtomicFile::Access::Umask});
+    return encodeTo(path, image, scale, AtomicFile::Access::Umask);
 }
 
 Result<QString> Files::save(const QByteArray& bytes, const QString& folder,
     const QString& extension, const QString& prefix, const QDateTime& time)
 {
-    for (;;) {
-        const QString path = nextURL(folder, extension, prefix, time);
+    ensureFolder(folder);
+    for (int next = 1;;) {
+        const auto [path, number] = nameFrom(next, folder, extension, prefix, time);
         const auto written
             = writeFile(path, bytes, {AtomicFile::Existing::Keep, AtomicFile::Access::Umask});
         if (written)
             return path;
         if (written.error().kind != Error::Kind::Exists)
             return written.error();
+        next = number + 1; // Never the same again: what took it may be nothing that we can see.
     }
 }
 
@@ -139,7 +161,8 @@ std::optional<QString> Files::tempPNG(
     const QString folder = temporaryFolder(folders);
     const QString name = FileNames::numbered(FileNames::dated(u"Screenshot"_s, time), 1, u"png"_s);
     const QString path = folder + u'/' + name;
-    if (!ensurePrivateFolder(folder) || !write(image, path, scale))
+    if (!ensurePrivateFolder(folder)
+        || !encodeTo(path, image, scale, AtomicFile::Access::OwnerOnly))
         return std::nullopt;
     return path;
 }

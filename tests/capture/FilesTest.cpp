@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <sys/mount.h>
@@ -26,6 +27,16 @@ QImage gradient(QSize size, QImage::Format format = QImage::Format_RGB32)
     for (int y = 0; y < size.height(); ++y)
         for (int x = 0; x < size.width(); ++x)
             image.setPixel(x, y, qRgba(x * 5 % 256, y * 7 % 256, 90, 255));
+    return image;
+}
+
+/// What no encoder makes small.
+QImage noise(QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        QRandomGenerator::global()->fillRange(
+            reinterpret_cast<quint32*>(image.scanLine(y)), size.width());
     return image;
 }
 
@@ -53,6 +64,18 @@ TEST(FilesTest, numbersFilesOfTheSameSecondInAFolderThatItMakes)
             u"Screenshot 2025-03-07 at 14.05.09.png"_s));
     EXPECT_TRUE(
         Files::nextURL(folder, u"jpg"_s, u"Screenshot"_s, afternoon).endsWith(u"14.05.09.jpg"_s));
+}
+
+TEST(FilesTest, countsALinkThatLeadsNowhereAsATakenName)
+{
+    const QTemporaryDir root;
+    const QString taken = Files::nextURL(root.path(), u"png"_s, u"Screenshot"_s, afternoon);
+    ASSERT_TRUE(QFile::link(root.filePath(u"nowhere"_s), taken));
+    const auto path = Files::save("bytes", root.path(), u"png"_s, u"Screenshot"_s, afternoon);
+    ASSERT_TRUE(path);
+    EXPECT_TRUE(path->endsWith(u"14.05.09 (2).png"_s)) << qPrintable(*path);
+    EXPECT_TRUE(QFileInfo(taken).isSymLink());
+    EXPECT_FALSE(QFile::exists(root.filePath(u"nowhere"_s)));
 }
 
 TEST(FilesTest, neverReplacesWhatAnotherProcessSavesMeanwhile)
@@ -142,6 +165,11 @@ TEST(FilesTest, saysWhyItCannotSaveAndLeavesNothingBehind)
     const auto noRoom = Files::save(large, full, u"png"_s, u"Screenshot"_s, afternoon);
     EXPECT_FALSE(noRoom);
     EXPECT_THAT(names(full), testing::IsEmpty());
+    const QString old = full + u"/chosen.png"_s;
+    EXPECT_TRUE(Files::write(gradient({9, 9}), old, 1));
+    EXPECT_FALSE(Files::write(noise({300, 300}), old, 1));
+    EXPECT_EQ(QImage(old).convertToFormat(QImage::Format_RGB32), gradient({9, 9}))
+        << "not kept whole";
     umount(qPrintable(full));
 }
 
@@ -155,10 +183,9 @@ TEST(FilesTest, keepsTemporaryFilesToTheUserAndCleansThem)
     ASSERT_TRUE(path);
     EXPECT_TRUE(path->endsWith(u"/Screenshot 2025-03-07 at 14.05.09.png"_s));
     EXPECT_EQ(QImage(*path).convertToFormat(QImage::Format_RGB32), image);
-    EXPECT_EQ(QFileInfo(QFileInfo(*path).path()).permissions()
-            & ~(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadUser
-                | QFile::WriteUser | QFile::ExeUser),
-        QFile::Permissions());
+    constexpr QFile::Permissions others(0x77); // Group and everybody.
+    for (const auto& each : {*path, QFileInfo(*path).path()})
+        EXPECT_EQ(QFileInfo(each).permissions() & others, QFile::Permissions()) << qPrintable(each);
     EXPECT_EQ(Files::tempPNG(image, 2, folders, afternoon), path) << "replaced, not numbered";
     Files::cleanTemporaries(folders);
     EXPECT_FALSE(QFile::exists(*path));
