@@ -54,7 +54,7 @@ QImage flattenedOnWhite(const QImage& image)
 
 Result<QByteArray> encodeJpeg(const QImage& image, double scale)
 {
-    QImage flat = flattenedOnWhite(image);
+    QImage flat = samePixels(flattenedOnWhite(image));
     const int dotsPerMetre = int(std::lround(scale * 72 * inchesPerMetre));
     flat.setDotsPerMeterX(dotsPerMetre);
     flat.setDotsPerMeterY(dotsPerMetre);
@@ -150,7 +150,7 @@ Result<QString> Files::save(const QByteArray& bytes, const QString& folder,
 
 void Files::copy(Clipboard& clipboard, const QImage& image, double scale, const QByteArray& png)
 {
-    QImage sized = image;
+    QImage sized = samePixels(image);
     sized.setDevicePixelRatio(scale);
     clipboard.setImage(sized, png);
 }

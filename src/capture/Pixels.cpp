@@ -4,6 +4,15 @@
 
 #include <algorithm>
 
+namespace {
+
+bool isOfOurs(QImage::Format format)
+{
+    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied;
+}
+
+} // namespace
+
 QImage toImage(const Bitmap& bitmap)
 {
     const auto format = bitmap.format() == PixelFormat::Rgb32 ? QImage::Format_RGB32
@@ -14,6 +23,16 @@ QImage toImage(const Bitmap& bitmap)
     const auto release = [](void* pixels) { delete static_cast<Pixels*>(pixels); };
     return QImage(reinterpret_cast<const uchar*>(keeper->get()), size.width(), size.height(),
         qsizetype(size.width()) * 4, format, release, keeper);
+}
+
+QImage samePixels(const QImage& image)
+{
+    if (!isOfOurs(image.format()))
+        return image;
+    auto* keeper = new QImage(image);
+    const auto release = [](void* kept) { delete static_cast<QImage*>(kept); };
+    return QImage(keeper->constBits(), image.width(), image.height(), image.bytesPerLine(),
+        image.format(), release, keeper);
 }
 
 Result<QImage> readImage(RowSource& source)
@@ -27,8 +46,7 @@ Result<QImage> readImage(RowSource& source)
 ImageRows::ImageRows(const QImage& image)
     : m_image(image)
 {
-    if (image.format() != QImage::Format_RGB32
-        && image.format() != QImage::Format_ARGB32_Premultiplied)
+    if (!isOfOurs(image.format()))
         m_image = image.convertToFormat(
             image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }

@@ -9,6 +9,10 @@
 /// A bitmap as the toolkit sees it, sharing its pixels; RGB32 or ARGB32_Premultiplied.
 QImage toImage(const Bitmap& bitmap);
 
+/// The same pixels, not copied, under a pixel ratio and a resolution of their own: setting these on
+/// a shared QImage copies it whole. Other formats than the two of PixelFormat do get copied then.
+QImage samePixels(const QImage& image);
+
 /// All of a picture.
 Result<QImage> readImage(RowSource& source);
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
 #include "capture/Files.h"
+#include "platform/fake/FakePlatform.h"
 
 #include <gmock/gmock.h>
 
@@ -146,6 +147,19 @@ TEST(FilesTest, keepsTransparencyInPngAndPutsWhiteBehindItInJpeg)
     ASSERT_TRUE(jpeg);
     const QColor behind = QImage::fromData(*jpeg, "jpeg").pixelColor(30, 25);
     EXPECT_GT(behind.red() + behind.green() + behind.blue(), 3 * 250);
+}
+
+TEST(FilesTest, copiesAtTheSizeOnScreenWithoutCopyingPixels)
+{
+    FakeClipboard clipboard;
+    QImage image = gradient({288, 180});
+    const QImage expected = image.copy();
+    Files::copy(clipboard, image, 2, "png");
+    EXPECT_EQ(clipboard.image.deviceIndependentSize(), QSizeF(144, 90));
+    EXPECT_EQ(clipboard.image.constBits(), image.constBits());
+    image = QImage();
+    clipboard.image.setDevicePixelRatio(1);
+    EXPECT_EQ(clipboard.image, expected) << "gone with the original";
 }
 
 TEST(FilesTest, saysWhyItCannotSaveAndLeavesNothingBehind)
