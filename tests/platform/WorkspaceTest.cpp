@@ -4,7 +4,9 @@
 #include "tests/desktop/DesktopTest.h"
 
 #include <QDBusConnection>
+#include <QDesktopServices>
 #include <QObject>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +24,20 @@ public:
     QStringList shown;
 };
 
+/// Opens what the desktop is asked to open.
+class Opener final : public QObject {
+    Q_OBJECT
+
+public:
+    Opener() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
+    ~Opener() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
+
+    QList<QUrl> opened;
+
+public Q_SLOTS:
+    void open(const QUrl& url) { opened << url; }
+};
+
 using WorkspaceTest = DesktopTest<>;
 
 } // namespace
@@ -36,6 +52,18 @@ TEST_F(WorkspaceTest, revealsAFileInTheFileManager)
     DesktopWorkspace().reveal(u"/tmp/Büro/a b.png"_s);
     EXPECT_TRUE(waitFor([&] { return !manager.shown.isEmpty(); }));
     EXPECT_EQ(manager.shown, QStringList {u"file:///tmp/B%C3%BCro/a%20b.png"_s});
+    bus.unregisterObject(u"/org/freedesktop/FileManager1"_s);
+    bus.unregisterService(u"org.freedesktop.FileManager1"_s);
+}
+
+TEST_F(WorkspaceTest, opensTheFolderWhereNoFileManagerKnowsHowToReveal)
+{
+    Opener opener;
+    auto workspace = std::make_unique<DesktopWorkspace>();
+    workspace->reveal(u"/tmp/Büro/a b.png"_s);
+    workspace.reset(); // The answer comes later.
+    EXPECT_TRUE(waitFor([&] { return !opener.opened.isEmpty(); }));
+    EXPECT_EQ(opener.opened, QList<QUrl> {QUrl::fromLocalFile(u"/tmp/Büro"_s)});
 }
 
 #include "WorkspaceTest.moc"

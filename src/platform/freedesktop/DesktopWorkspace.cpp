@@ -14,12 +14,21 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+void openByAssociation(const QString& fileOrFolder)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(fileOrFolder));
+}
+
+} // namespace
+
 void DesktopWorkspace::reveal(const QString& path)
 {
     const auto bus = QDBusConnection::sessionBus();
     const QString folder = QFileInfo(path).absolutePath();
     if (!bus.isConnected()) {
-        open(folder);
+        openByAssociation(folder);
         return;
     }
     // https://www.freedesktop.org/wiki/Specifications/file-manager-interface
@@ -28,17 +37,17 @@ void DesktopWorkspace::reveal(const QString& path)
     const QString url = QString::fromUtf8(QUrl::fromLocalFile(path).toEncoded());
     call << QStringList {url} << QString();
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), qApp);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, qApp, [this, watcher, folder] {
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, qApp, [watcher, folder] {
         const QDBusPendingReply<> reply = *watcher;
         watcher->deleteLater();
         if (reply.isError()) // No file manager that knows the interface.
-            open(folder);
+            openByAssociation(folder);
     });
 }
 
 void DesktopWorkspace::open(const QString& fileOrFolder)
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(fileOrFolder));
+    openByAssociation(fileOrFolder);
 }
 
 void DesktopWorkspace::relaunch()
