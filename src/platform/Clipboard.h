@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 #include <QImage>
-#include <QString>
+#include <QStringList>
 
 /// The clipboard that all programs share.
 class Clipboard {
@@ -16,4 +16,7 @@ public:
     /// made from the image.
     virtual void setImage(const QImage& image, const QByteArray& png) = 0;
     virtual void setText(const QString& text) = 0;
+
+    /// Files that a file manager pastes as copies. Absolute paths; the files must outlive this.
+    virtual void setFiles(const QStringList& paths) = 0;
 };

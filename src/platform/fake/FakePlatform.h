@@ -89,10 +89,12 @@ public:
         png = bytes;
     }
     void setText(const QString& copied) override { text = copied; }
+    void setFiles(const QStringList& copied) override { files = copied; }
 
     QImage image;
     QByteArray png;
     QString text;
+    QStringList files;
 };
 
 class FakeWorkspace final : public Workspace {

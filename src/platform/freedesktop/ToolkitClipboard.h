@@ -10,4 +10,5 @@ class ToolkitClipboard final : public Clipboard {
 public:
     void setImage(const QImage& image, const QByteArray& png) override;
     void setText(const QString& text) override;
+    void setFiles(const QStringList& paths) override;
 };
