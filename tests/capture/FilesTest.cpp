@@ -127,6 +127,10 @@ TEST(FilesTest, encodesByExtensionWithTheResolution)
     ASSERT_FALSE(nothing);
     EXPECT_EQ(nothing.error().message, u"Couldn't encode the image."_s);
     EXPECT_FALSE(QFile::exists(root.filePath(u"x.png"_s)));
+    const QImage tooWide(65536, 1, QImage::Format_RGB32); // For JPEG.
+    const auto refused = Files::encode(tooWide, ImageType::Jpeg, 1);
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error().message, nothing.error().message);
 }
 
 TEST(FilesTest, keepsTransparencyInPngAndPutsWhiteBehindItInJpeg)
