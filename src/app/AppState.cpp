@@ -65,6 +65,8 @@ void AppState::start()
         follow(*application);
     connect(
         m_platform.activeApplication.get(), &ActiveApplication::activated, this, &AppState::follow);
+    connect(&m_prefs, &Prefs::changed, this, &AppState::adoptPreference);
+    registerHotkeys();
     if (!m_platform.capture->permitted())
         pass(m_stages.showPermissionWindow);
 }

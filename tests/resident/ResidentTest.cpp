@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -98,6 +99,27 @@ TEST_F(ResidentTest, leavesItsCopyToTheClipboardManagerWhenItEnds)
     pixmallow({u"quit"_s});
     EXPECT_FALSE((*manager)->waitForLine("saved").isNull());
     EXPECT_EQ(clipboard(u"image/png"_s), contentOf(path));
+}
+
+TEST_F(ResidentTest, capturesWhenItsShortcutIsPressed)
+{
+    capture(u"screen"_s); // Starts the resident program.
+    const auto before = saved().size();
+    const auto window = open(); // It has the keyboard.
+    desktop().key("ctrl+shift+3");
+    EXPECT_TRUE(waitFor([&] { return saved().size() == before + 1; }));
+    desktop().key("ctrl+shift+2");
+    EXPECT_TRUE(waitFor([&] { return saved().size() == before + 2; }));
+
+    const QImage bright = desktop().rootPixels();
+    desktop().key("ctrl+shift+1");
+    ASSERT_TRUE(waitFor([&] { return !equal(desktop().rootPixels(), bright); }));
+    desktop().key("ctrl+shift+3"); // Dropped, and the selection stays.
+    desktop().key("space");
+    EXPECT_TRUE(waitFor([&] { return saved().size() == before + 3; }));
+    const auto history
+        = contentOf(desktop().home() + u"/.local/share/Pixmallow/History/index.json"_s);
+    EXPECT_EQ(QJsonDocument::fromJson(history).array().size(), saved().size());
 }
 
 TEST_F(ResidentTest, capturesTheWindowLastWorkedIn)
