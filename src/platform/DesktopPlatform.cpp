@@ -3,6 +3,7 @@
 #include "platform/DesktopPlatform.h"
 
 #include "platform/freedesktop/DesktopWorkspace.h"
+#include "platform/freedesktop/PulseSoundOutput.h"
 #include "platform/freedesktop/ToolkitClipboard.h"
 #include "platform/x11/OwnWindowMarker.h"
 #include "platform/x11/X11ActiveApplication.h"
@@ -23,12 +24,14 @@ Result<DesktopPlatform> makeDesktopPlatform()
     auto keyboard = X11Connection::open();
     if (!keyboard)
         return keyboard.error();
-    DesktopPlatform platform {*std::move(capture), {}, {}, {}, {}, {}, {}};
+    DesktopPlatform platform;
+    static_cast<CapturePlatform&>(platform) = *std::move(capture);
     platform.activeApplication = std::make_unique<X11ActiveApplication>(*listening);
     platform.clipboard = std::make_unique<ToolkitClipboard>();
     platform.workspace = std::make_unique<DesktopWorkspace>();
     platform.surfaces = *std::move(surfaces);
     platform.hotkeys = std::make_unique<X11Hotkeys>(*keyboard);
+    platform.sound = std::make_unique<PulseSoundOutput>();
     platform.ownWindows = std::make_unique<OwnWindowMarker>();
     return platform;
 }

@@ -7,6 +7,7 @@
 #include "platform/Hotkeys.h"
 #include "platform/Platform.h"
 #include "platform/SurfaceTraits.h"
+#include "platform/SoundOutput.h"
 #include "platform/Workspace.h"
 
 /// All seams to the operating system, for the resident program.
@@ -16,6 +17,7 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<SurfaceTraits> surfaces;
     std::unique_ptr<Hotkeys> hotkeys;
+    std::unique_ptr<SoundOutput> sound;
     std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
 };
 

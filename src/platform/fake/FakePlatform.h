@@ -107,6 +107,26 @@ public:
     int relaunches = 0;
 };
 
+/// Writes down what would be heard.
+class FakeSoundOutput final : public SoundOutput {
+public:
+    struct Played {
+        QUrl file;
+        double volume;
+    };
+
+    void play(const QUrl& file, double volume) override { played.push_back({file, volume}); }
+    Result<void> check(const QUrl& file) const override
+    {
+        if (damaged.contains(file))
+            return Error::failed(QStringLiteral("It is damaged."));
+        return {};
+    }
+
+    QList<Played> played;
+    QList<QUrl> damaged;
+};
+
 /// A platform that answers when told, with its parts at hand.
 struct FakePlatform : DesktopPlatform {
     FakePlatform()
@@ -117,6 +137,7 @@ struct FakePlatform : DesktopPlatform {
         clipboard = std::make_unique<FakeClipboard>();
         workspace = std::make_unique<FakeWorkspace>();
         hotkeys = std::make_unique<FakeHotkeys>();
+        sound = std::make_unique<FakeSoundOutput>();
     }
 
     FakeDisplays& fakeDisplays() { return static_cast<FakeDisplays&>(*displays); }
@@ -126,6 +147,7 @@ struct FakePlatform : DesktopPlatform {
         return static_cast<FakeActiveApplication&>(*activeApplication);
     }
     FakeClipboard& fakeClipboard() { return static_cast<FakeClipboard&>(*clipboard); }
+    FakeSoundOutput& fakeSound() { return static_cast<FakeSoundOutput&>(*sound); }
     FakeWorkspace& fakeWorkspace() { return static_cast<FakeWorkspace&>(*workspace); }
     FakeHotkeys& fakeHotkeys() { return static_cast<FakeHotkeys&>(*hotkeys); }
 };
