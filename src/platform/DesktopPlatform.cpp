@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/DesktopPlatform.h"
 
+#include "platform/freedesktop/DesktopAppearance.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
 #include "platform/freedesktop/PulseSoundOutput.h"
 #include "platform/freedesktop/ToolkitClipboard.h"
@@ -31,6 +32,8 @@ Result<DesktopPlatform> makeDesktopPlatform()
     platform.workspace = std::make_unique<DesktopWorkspace>();
     platform.surfaces = *std::move(surfaces);
     platform.hotkeys = std::make_unique<X11Hotkeys>(*keyboard);
+    platform.appearance
+        = std::make_unique<DesktopAppearance>(DesktopAppearance::TextScale::InScreenScale);
     platform.sound = std::make_unique<PulseSoundOutput>();
     platform.ownWindows = std::make_unique<OwnWindowMarker>();
     return platform;

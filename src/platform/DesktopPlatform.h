@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/ActiveApplication.h"
+#include "platform/Appearance.h"
 #include "platform/Clipboard.h"
 #include "platform/Hotkeys.h"
 #include "platform/Platform.h"
@@ -17,6 +18,7 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<SurfaceTraits> surfaces;
     std::unique_ptr<Hotkeys> hotkeys;
+    std::unique_ptr<Appearance> appearance;
     std::unique_ptr<SoundOutput> sound;
     std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
 };

@@ -107,6 +107,18 @@ public:
     int relaunches = 0;
 };
 
+class FakeAppearance final : public Appearance {
+public:
+    DesktopLook current() const override { return look; }
+    void set(const DesktopLook& changedTo)
+    {
+        look = changedTo;
+        Q_EMIT changed();
+    }
+
+    DesktopLook look;
+};
+
 /// Writes down what would be heard.
 class FakeSoundOutput final : public SoundOutput {
 public:
@@ -137,6 +149,7 @@ struct FakePlatform : DesktopPlatform {
         clipboard = std::make_unique<FakeClipboard>();
         workspace = std::make_unique<FakeWorkspace>();
         hotkeys = std::make_unique<FakeHotkeys>();
+        appearance = std::make_unique<FakeAppearance>();
         sound = std::make_unique<FakeSoundOutput>();
     }
 
@@ -147,6 +160,7 @@ struct FakePlatform : DesktopPlatform {
         return static_cast<FakeActiveApplication&>(*activeApplication);
     }
     FakeClipboard& fakeClipboard() { return static_cast<FakeClipboard&>(*clipboard); }
+    FakeAppearance& fakeAppearance() { return static_cast<FakeAppearance&>(*appearance); }
     FakeSoundOutput& fakeSound() { return static_cast<FakeSoundOutput&>(*sound); }
     FakeWorkspace& fakeWorkspace() { return static_cast<FakeWorkspace&>(*workspace); }
     FakeHotkeys& fakeHotkeys() { return static_cast<FakeHotkeys&>(*hotkeys); }
