@@ -60,9 +60,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
     prefs.registerDefaults();
     Files::cleanTemporaries(folders);
 
-    HistoryStore history(folders, prefs);
-    history.install();
-    Rooms rooms(*platform, prefs, history);
+    Rooms rooms(*platform, prefs, folders);
     HotkeyCenter hotkeys(*platform->hotkeys);
     hotkeys.install();
     AppState state(*platform, prefs, hotkeys, rooms.stages());

@@ -2,18 +2,26 @@
 // SPDX-License-Identifier: MIT
 #include "app/Rooms.h"
 
-Rooms::Rooms(DesktopPlatform& platform, const Prefs& prefs, HistoryStore& history)
+Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     : m_platform(platform)
     , m_prefs(prefs)
-    , m_history(history)
+    , m_history(folders, prefs)
+    , m_skins(prefs, *platform.appearance)
+    , m_synthesisedSounds(folders, prefs, *platform.sound)
+    , m_sounds(prefs, m_synthesisedSounds, *platform.sound)
     , m_overlayPool(*platform.surfaces)
 {
+    m_history.install();
+    m_skins.install();
+    m_sounds.install();
+    m_skins.apply();
 }
 
 CaptureStages Rooms::stages()
 {
     CaptureStages stages;
     stages.selectRegion = [this](const RegionQuestion& question) { return selectRegion(question); };
+    stages.playShutter = [this] { m_sounds.playShutter(); };
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
     };
@@ -23,6 +31,8 @@ CaptureStages Rooms::stages()
 Pending<RegionResult> Rooms::selectRegion(const RegionQuestion& question)
 {
     OverlayStyle style;
+    if (const auto accent = m_skins.current().accent())
+        style.accent = *accent;
     style.crosshair = m_prefs.get(Prefs::keys.showCrosshair);
     style.magnifier = m_prefs.get(Prefs::keys.showMagnifier);
     m_overlay = std::make_unique<RegionOverlay>(m_overlayPool, *m_platform.displays, style);

@@ -3,15 +3,16 @@
 #pragma once
 
 #include "app/CaptureStages.h"
-#include "base/Prefs.h"
 #include "history/HistoryStore.h"
 #include "overlay/RegionOverlay.h"
 #include "platform/DesktopPlatform.h"
+#include "skins/Skins.h"
+#include "skins/Sounds.h"
 
 /// The rooms along a capture's way, each made once, and how the coordinator reaches them.
 class Rooms final {
 public:
-    Rooms(DesktopPlatform& platform, const Prefs& prefs, HistoryStore& history);
+    Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders);
 
     CaptureStages stages();
 
@@ -23,7 +24,10 @@ private:
 
     DesktopPlatform& m_platform;
     const Prefs& m_prefs;
-    HistoryStore& m_history;
+    HistoryStore m_history; ///< Before all that makes the data folder, which it may have to move.
+    Skins m_skins;
+    SynthSounds m_synthesisedSounds;
+    Sounds m_sounds;
     OverlayPool m_overlayPool;
     std::unique_ptr<RegionOverlay> m_overlay; ///< Of the last selection.
 };
