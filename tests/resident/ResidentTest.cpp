@@ -117,9 +117,10 @@ TEST_F(ResidentTest, capturesWhenItsShortcutIsPressed)
     desktop().key("ctrl+shift+3"); // Dropped, and the selection stays.
     desktop().key("space");
     EXPECT_TRUE(waitFor([&] { return saved().size() == before + 3; }));
-    const auto history
-        = contentOf(desktop().home() + u"/.local/share/Pixmallow/History/index.json"_s);
-    EXPECT_EQ(QJsonDocument::fromJson(history).array().size(), saved().size());
+    const QString index = desktop().home() + u"/.local/share/Pixmallow/History/index.json"_s;
+    EXPECT_TRUE(waitFor([&] {
+        return QJsonDocument::fromJson(contentOf(index)).array().size() == saved().size();
+    }));
 }
 
 TEST_F(ResidentTest, capturesTheWindowLastWorkedIn)
