@@ -9,12 +9,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSet>
 
 #include <dirent.h>
 #include <unistd.h>
 
 #include <memory>
+#include <string>
+#include <unordered_map>
 
 using namespace Qt::StringLiterals;
 
@@ -29,24 +30,47 @@ const QString copySuffix = u".png"_s;
 /// such as an older index put back, and they are not ours to remove.
 constexpr qsizetype mostStrays = 4;
 
-/// One system call, as it is made for every entry at start.
-bool exists(const QString& path)
-{
-    return access(QFile::encodeName(path).constData(), F_OK) == 0;
-}
-
-/// Without looking at each file, as the toolkit's listing would.
-QStringList namesIn(const QString& folder)
-{
-    QStringList names;
-    const std::unique_ptr<DIR, int (*)(DIR*)> entries(
-        opendir(QFile::encodeName(folder).constData()), closedir);
-    while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
-        names.append(QFile::decodeName(entry->d_name));
-    return names;
-}
-
 } // namespace
+
+/// What is in a folder, read once: to ask the system for each of many files takes four times as
+/// long.
+class HistoryFolder::Listing final {
+public:
+    explicit Listing(const QString& folder)
+        : m_prefix(QFile::encodeName(folder) + '/')
+    {
+        const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(m_prefix.constData()), closedir);
+        while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
+            m_isNamed.emplace(entry->d_name, false);
+    }
+
+    /// Whether there is such a file, here or elsewhere. One here is named from now on.
+    bool exists(const QString& path)
+    {
+        const QByteArray encoded = QFile::encodeName(path);
+        const auto slash = encoded.lastIndexOf('/');
+        if (slash + 1 != m_prefix.size() || !encoded.startsWith(m_prefix))
+            return access(encoded.constData(), F_OK) == 0;
+        const auto found = m_isNamed.find(encoded.constData() + m_prefix.size());
+        if (found == m_isNamed.end())
+            return false;
+        found->second = true;
+        return true;
+    }
+
+    QStringList unnamed() const
+    {
+        QStringList names;
+        for (const auto& [name, isNamed] : m_isNamed)
+            if (!isNamed)
+                names.append(QFile::decodeName(name.c_str()));
+        return names;
+    }
+
+private:
+    const QByteArray m_prefix;
+    std::unordered_map<std::string, bool> m_isNamed;
+};
 
 HistoryFolder::HistoryFolder(const Folders& folders)
     : m_dataFolder(folders.data)
@@ -58,29 +82,31 @@ HistoryFolder::HistoryFolder(const Folders& folders)
 
 HistoryFolder::Content HistoryFolder::open()
 {
-    if (QFileInfo(m_formerFolder).isDir() && !exists(m_dataFolder))
+    if (QFileInfo(m_formerFolder).isDir() && !QFileInfo::exists(m_dataFolder))
         QDir().rename(m_formerFolder, m_dataFolder);
     Content content;
-    if (!ensurePrivateFolder(m_folder) || !exists(m_indexPath))
+    if (!ensurePrivateFolder(m_folder) || !QFileInfo::exists(m_indexPath))
         return content;
-    const auto text = readIndex();
-    auto items = text ? HistoryIndex::parse(*text) : std::nullopt;
+    auto text = readIndex();
+    auto items = text ? HistoryIndex::parse(std::move(*text)) : std::nullopt;
     if (!items) {
         m_indexIsDamaged = !setAside(m_indexPath);
         return content;
     }
-    content.items.reserve(items->size());
+    Listing listing(m_folder);
     for (auto& item : *items) {
-        const QString path = located(item);
-        if (path.isEmpty()) {
-            content.gone.append(item.id);
+        if (listing.exists(item.path))
             continue;
-        }
-        content.isMoved |= path != item.path;
-        item.path = path;
-        content.items.append(std::move(item));
+        item.path = movedPath(item, listing);
+        if (item.path.isEmpty())
+            content.gone.append(item.id);
+        else
+            content.isMoved = true;
     }
-    removeStrays(content.items);
+    if (!content.gone.isEmpty())
+        items->removeIf([](const HistoryItem& item) { return item.path.isEmpty(); });
+    content.items = std::move(*items);
+    removeStrays(listing.unnamed());
     return content;
 }
 
@@ -93,34 +119,27 @@ std::optional<QByteArray> HistoryFolder::readIndex()
     return file.error() == QFile::NoError ? std::optional(std::move(text)) : std::nullopt;
 }
 
-QString HistoryFolder::located(const HistoryItem& item) const
+QString HistoryFolder::movedPath(const HistoryItem& item, Listing& listing) const
 {
-    if (exists(item.path))
-        return item.path;
     if (item.path.startsWith(m_formerFolder + u'/')) {
         const QString moved = m_dataFolder + item.path.mid(m_formerFolder.size());
-        if (exists(moved))
+        if (listing.exists(moved))
             return moved;
     }
     // The user's home may have another name now.
     const QString copy = copyPath(item.id);
-    return item.cached && isHistoryId(item.id) && exists(copy) ? copy : QString();
+    return item.cached && isHistoryId(item.id) && listing.exists(copy) ? copy : QString();
 }
 
-void HistoryFolder::removeStrays(const QList<HistoryItem>& items) const
+void HistoryFolder::removeStrays(const QStringList& unnamed) const
 {
-    QSet<QString> kept;
-    for (const auto& item : items)
-        if (holdsCopyOf(item))
-            kept.insert(item.id + copySuffix);
     QStringList strays;
-    const QStringList names = namesIn(m_folder);
-    for (const QString& name : names) {
+    for (const QString& name : unnamed) {
         if (name.startsWith(u"index.json.damaged-"_s))
             return; // What it names may be wanted again.
         const bool isCopy = name.endsWith(copySuffix)
             && isHistoryId(QStringView(name).chopped(copySuffix.size()));
-        if (isUnfinishedFile(name) || (isCopy && !kept.contains(name)))
+        if (isCopy || isUnfinishedFile(name))
             strays.append(name);
     }
     if (strays.size() <= mostStrays)
@@ -132,7 +151,7 @@ Result<void> HistoryFolder::writeIndex(const QByteArray& text)
 {
     if (const auto usable = ensurePrivateFolder(m_folder); !usable)
         return usable;
-    if (m_indexIsDamaged && exists(m_indexPath))
+    if (m_indexIsDamaged && QFileInfo::exists(m_indexPath))
         if (const auto moved = setAside(m_indexPath); !moved)
             return moved;
     m_indexIsDamaged = false;

@@ -37,10 +37,12 @@ public:
     void removeCopy(const HistoryItem& item);
 
 private:
+    class Listing;
+
     std::optional<QByteArray> readIndex(); ///< Null where it is there, but cannot be read.
-    /// Where the entry's file is now; empty where it is gone.
-    QString located(const HistoryItem& item) const;
-    void removeStrays(const QList<HistoryItem>& items) const;
+    /// Where the entry's missing file is now; empty where it is gone.
+    QString movedPath(const HistoryItem& item, Listing& listing) const;
+    void removeStrays(const QStringList& unnamed) const;
 
     const QString m_dataFolder;
     const QString m_formerFolder;

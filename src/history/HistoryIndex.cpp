@@ -24,8 +24,12 @@ enum class Member { Id, Date, Path, Width, Height, Scale, App, Cached, Other };
 constexpr std::array<std::string_view, 8> memberNames {
     "id", "date", "path", "width", "height", "scale", "app", "cached"};
 
-Member memberNamed(std::string_view name)
+/// Tried first is the one that usually comes next.
+Member memberNamed(std::string_view name, Member before)
 {
+    const std::size_t next = (std::size_t(before) + 1) % memberNames.size();
+    if (name == memberNames[next])
+        return Member(next);
     const auto* found = std::find(memberNames.begin(), memberNames.end(), name);
     return Member(found - memberNames.begin());
 }
@@ -53,6 +57,11 @@ bool read(std::string_view text, int& value)
 /// unknown members are written down again as they come by.
 class IndexHandler final {
 public:
+    explicit IndexHandler(qsizetype textSize)
+    {
+        constexpr qsizetype usualEntry = 220; // Bytes.
+        m_items.reserve(textSize / usualEntry);
+    }
     QList<HistoryItem> takeItems() { return std::move(m_items); }
 
     bool Null() { return isOther() && ended(m_writer.Null()); }
@@ -74,8 +83,9 @@ public:
     }
     bool String(const char* text, SizeType length, bool)
     {
-        if (isOther())
-            return ended(m_writer.String(text, length));
+        if (isOther()) // Half a surrogate pair, written \udc00, makes no UTF-8.
+            return QUtf8StringView(text, qsizetype(length)).isValidUtf8()
+                && ended(m_writer.String(text, length));
         QString* target = stringOf(m_member);
         if (!target)
             return false;
@@ -106,8 +116,9 @@ public:
     bool Key(const char* text, SizeType length, bool)
     {
         if (m_depth > entryDepth)
-            return m_writer.Key(text, length);
-        m_member = memberNamed({text, length});
+            return QUtf8StringView(text, qsizetype(length)).isValidUtf8()
+                && m_writer.Key(text, length);
+        m_member = memberNamed({text, length}, m_member);
         if (m_member == Member::Other) {
             m_item.others.append({QString::fromUtf8(text, qsizetype(length)), {}});
             m_buffer.Clear();
@@ -243,12 +254,12 @@ std::optional<QList<HistoryItem>> HistoryIndex::parse(QByteArray text)
 {
     // Iterative: a text of opening brackets must not use up the stack.
     constexpr unsigned flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag
-        | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag;
+        | rapidjson::kParseNumbersAsStringsFlag;
     rapidjson::InsituStringStream stream(text.data());
     rapidjson::Reader reader;
-    IndexHandler handler;
+    IndexHandler handler(text.size());
     const bool isWhole = !text.contains('\0'); // Where the reader would take the text to end.
-    if (!isWhole || !reader.Parse<flags>(stream, handler))
+    if (!isWhole || !QUtf8StringView(text).isValidUtf8() || !reader.Parse<flags>(stream, handler))
         return std::nullopt;
     return handler.takeItems();
 }

@@ -34,6 +34,8 @@ struct HistoryItem {
     bool operator==(const HistoryItem&) const = default;
 };
 
+Q_DECLARE_TYPEINFO(HistoryItem, Q_RELOCATABLE_TYPE);
+
 size_t qHash(const HistoryItem& item, size_t seed = 0);
 
 /// A time as the index has it.

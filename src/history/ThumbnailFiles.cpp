@@ -104,10 +104,13 @@ void ThumbnailFiles::remove(const QString& id) const
 
 void ThumbnailFiles::removeAllBut(const QList<HistoryItem>& items) const
 {
+    const auto names = QDir(m_folder).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
+    if (names.isEmpty())
+        return;
     QSet<QString> kept;
+    kept.reserve(items.size());
     for (const auto& item : items)
         kept.insert(item.id);
-    const auto names = QDir(m_folder).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
     for (const QString& name : names) {
         const QString id = QFileInfo(name).completeBaseName();
         if (isUnfinishedFile(name) || (isHistoryId(id) && !kept.contains(id)))

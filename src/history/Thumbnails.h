@@ -26,7 +26,7 @@ class Thumbnails final : public QObject {
     Q_OBJECT
 
 public:
-    static constexpr QSize most {520, 260}; ///< Pixels; cards are 130 points high.
+    static constexpr QSize most {416, 208}; ///< Pixels; cards are 130 points high.
     static constexpr qsizetype mostBytes = 32 * 1024 * 1024; ///< Of pixels in memory.
 
     explicit Thumbnails(const QString& folder);

@@ -54,7 +54,9 @@ TEST(HistoryIndexTest, takesNothingFromATextThatIsNoIndex)
             with("false", "null"), with("2880", "\"2880\""), with("2880", "28.5"),
             with("2880", "3000000000"), with("700000000.5", "1e999"), with("700000000.5", "[]"),
             with("\"\"", "{\"app\":\"\"}"), with("ä", "\xff"), with("\"app\"", "\"App\""),
-            with("false", "false,\"x\":[}"), with("1800", "01800"), QByteArray(1'000'000, '['),
+            with("false", "false,\"x\":[}"), with("1800", "01800"),
+            with("false", R"(false,"x":"\udc00")"), with("false", R"(false,"x":{"\udc00":1})"),
+            QByteArray(1'000'000, '['),
             '[' + QByteArray(entry).chopped(1) + ",\"x\":" + QByteArray(1'000'000, '[')})
         EXPECT_FALSE(HistoryIndex::parse(text)) << text.left(300).constData();
 

@@ -56,9 +56,9 @@ TEST_F(ThumbnailsTest, areReducedButMeasureInPointsWhatTheCaptureDoes)
         double scale;
         QSize reduced;
     };
-    for (const auto& [pixels, scale, reduced] : {Case {{3840, 2160}, 2, {462, 260}},
-             Case {{5000, 100}, 1, {520, 10}}, Case {{30, 2600}, 1.5, {3, 260}},
-             Case {{100, 50}, 2, {100, 50}}, Case {{1, 4000}, 1, {1, 260}}}) {
+    for (const auto& [pixels, scale, reduced] : {Case {{3840, 2160}, 2, {369, 208}},
+             Case {{5000, 100}, 1, {416, 8}}, Case {{30, 2080}, 1.5, {3, 208}},
+             Case {{100, 50}, 2, {100, 50}}, Case {{1, 4000}, 1, {1, 208}}}) {
         const QImage image = sampleImage(5, pixels);
         for (const QString& path : {QString(), savedFile(u"a.png"_s, pngOf(image))}) {
             loaded.clear();
