@@ -10,9 +10,9 @@
 class QKeyEvent;
 class QMouseEvent;
 
-/// Lets the user select a rectangle on the frozen pictures of all screens, each covered by a window.
-/// Made anew for each selection; when it is destroyed before the end, the answer is Cancelled. The
-/// pool outlives it.
+/// Lets the user select a rectangle on the frozen pictures of all screens, each covered by a
+/// window. Made anew for each selection; when it is destroyed before the end, the answer is
+/// Cancelled. The pool outlives it.
 class RegionOverlay final : public QObject {
     Q_OBJECT
 
