@@ -40,6 +40,9 @@ public:
     void setSquare(bool square) { m_square = square; }
     void key(OverlayKey key);
 
+    /// Where it was last heard to be.
+    QPoint pointer() const { return active().frozen.display.native.topLeft() + m_pointer; }
+
     /// Where the pointer comes to by a step in pixels; it stays on its screen.
     QPoint stepped(QPoint step) const;
 

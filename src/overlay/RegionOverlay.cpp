@@ -126,6 +126,10 @@ void RegionOverlay::handleMouse(const QMouseEvent& event, const QWindow& window)
 bool RegionOverlay::handleKey(const QKeyEvent& event)
 {
     const bool pressed = event.type() == QEvent::KeyPress;
+    // Keys mean where the pointer is now, whatever moves of it are yet to be heard of. If it is
+    // where it was, that is no move.
+    if (const QPoint now = m_displays.pointer(); pressed && now != m_model->pointer())
+        m_model->move(now);
     if (event.key() == Qt::Key_Shift) {
         m_model->setSquare(pressed);
     } else if (const QPoint direction = directionOf(event.key()); !direction.isNull()) {
@@ -133,7 +137,7 @@ bool RegionOverlay::handleKey(const QKeyEvent& event)
             const bool far = event.modifiers() & Qt::ShiftModifier;
             const QPoint to = m_model->stepped(direction * (far ? longArrowStep : arrowStep));
             m_pool.surfaces().movePointer(to);
-            m_model->move(to); // At once, so that a key held down loses no step.
+            m_model->move(to);
         }
     } else if (const auto key = meaningOf(event.key())) {
         if (pressed)

@@ -25,6 +25,6 @@ public:
     /// y down. The event itself may be rounded to points.
     virtual QPoint nativePosition(const QMouseEvent& event, const QWindow& window) const = 0;
 
-    /// Moves the pointer, to device pixels of the whole desktop, y down.
+    /// Moves the pointer, to device pixels of the whole desktop, y down; returns when it is there.
     virtual void movePointer(QPoint native) = 0;
 };

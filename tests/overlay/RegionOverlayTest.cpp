@@ -126,6 +126,10 @@ void takesExactlyWhatIsDragged(VirtualDesktop& desktop, const std::vector<QRect>
     desktop.setRootPicture(wallpaper(root));
     const QImage screen = settledScreen(desktop);
     Selections selections(desktop);
+    const auto begin = [&] { // A compositor shows the last selection for a moment longer.
+        EXPECT_TRUE(waitFor([&] { return desktop.rootPixels() == screen; }));
+        selections.begin();
+    };
     for (const QRect& monitor : monitors) {
         const QPoint middle = monitor.center();
         const QPoint corners[][2] = {
@@ -134,7 +138,7 @@ void takesExactlyWhatIsDragged(VirtualDesktop& desktop, const std::vector<QRect>
             {middle - QPoint(77, -33), monitor.topRight() + QPoint(-13, 5)},
         };
         for (const auto& [from, to] : corners) {
-            selections.begin();
+            begin();
             desktop.drag(from, to);
             const QPoint first(std::min(from.x(), to.x()), std::min(from.y(), to.y()));
             EXPECT_TRUE(selections.took(screen,
@@ -143,12 +147,12 @@ void takesExactlyWhatIsDragged(VirtualDesktop& desktop, const std::vector<QRect>
         }
 
         // A drag that goes on past the edge or ends on the last pixel takes all up to the edge.
-        selections.begin();
+        begin();
         desktop.drag(middle, monitor.bottomRight());
         EXPECT_TRUE(selections.took(screen, {middle, monitor.bottomRight()}));
     }
 
-    selections.begin();
+    begin();
     desktop.moveTo(monitors.front().center());
     const QImage dark = dimmed(screen);
     for (const QRect& monitor : monitors) {

@@ -99,7 +99,7 @@ void X11SurfaceTraits::movePointer(QPoint native)
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_xcb)).data->root;
     xcb_warp_pointer(m_xcb, XCB_WINDOW_NONE, root, 0, 0, 0, 0, std::int16_t(native.x()),
         std::int16_t(native.y()));
-    xcb_flush(m_xcb);
+    (void)owned(xcb_query_pointer_reply(m_xcb, xcb_query_pointer(m_xcb, root), nullptr));
 }
 
 void X11SurfaceTraits::tryToGrab()
