@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "fun/Pet.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double xpOfLevel2 = 40;
+constexpr int longestName = 24;
+
+} // namespace
+
+int Pet::level(qint64 xp)
+{
+    return int(std::sqrt(double(std::max<qint64>(xp, 0)) / xpOfLevel2)) + 1;
+}
+
+std::size_t Pet::stage(int level)
+{
+    const auto above = std::ranges::upper_bound(stageAt, std::max(level, stageAt.front()));
+    return std::size_t(above - stageAt.begin()) - 1;
+}
+
+QString Pet::nextStage(int level)
+{
+    const std::size_t next = stage(level) + 1;
+    if (next == stageAt.size())
+        return u"Fully evolved"_s;
+    return u"Evolves into %1 at level %2"_s.arg(stageNames[next]).arg(stageAt[next]);
+}
+
+QString Pet::acceptableName(const QString& name)
+{
+    const QString trimmed = name.trimmed();
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, trimmed);
+    for (int i = 0; i < longestName; ++i)
+        if (characters.toNextBoundary() < 0)
+            return trimmed;
+    return trimmed.left(characters.position());
+}
