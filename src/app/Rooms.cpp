@@ -6,13 +6,16 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     : m_platform(platform)
     , m_prefs(prefs)
     , m_history(folders, prefs)
+    , m_fun(folders, prefs)
     , m_skins(prefs, *platform.appearance)
     , m_synthesisedSounds(folders, prefs, *platform.sound)
     , m_sounds(prefs, m_synthesisedSounds, *platform.sound)
     , m_overlayPool(*platform.surfaces)
 {
     m_history.install();
+    m_fun.install();
     m_skins.install();
+    m_synthesisedSounds.install();
     m_sounds.install();
     m_skins.apply();
 }
@@ -22,6 +25,8 @@ CaptureStages Rooms::stages()
     CaptureStages stages;
     stages.selectRegion = [this](const RegionQuestion& question) { return selectRegion(question); };
     stages.playShutter = [this] { m_sounds.playShutter(); };
+    stages.countCapture = [this] { m_fun.capture(); };
+    stages.countTextCapture = [this] { m_fun.record(FunDeed::TextCopied); };
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
     };

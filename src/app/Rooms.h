@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/CaptureStages.h"
+#include "fun/Fun.h"
 #include "history/HistoryStore.h"
 #include "overlay/RegionOverlay.h"
 #include "platform/DesktopPlatform.h"
@@ -25,6 +26,7 @@ private:
     DesktopPlatform& m_platform;
     const Prefs& m_prefs;
     HistoryStore m_history; ///< Before all that makes the data folder, which it may have to move.
+    Fun m_fun;
     Skins m_skins;
     SynthSounds m_synthesisedSounds;
     Sounds m_sounds;
