@@ -6,8 +6,9 @@
 
 #include <memory>
 
-/// A picture in memory, its pixels shared between copies. Fresh memory comes in huge pages where the
-/// system has them: at 3840 × 2160 the page faults of ordinary ones cost four times the copy itself.
+/// A picture in memory, its pixels shared between copies. Fresh memory comes in huge pages where
+/// the system has them: at 3840 × 2160 the page faults of ordinary ones cost four times the copy
+/// itself.
 class Bitmap final {
 public:
     Bitmap() = default;

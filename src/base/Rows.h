@@ -25,7 +25,8 @@ struct Rows {
 };
 
 /// A picture that is read in horizontal strips, so that whoever writes it needs no full-size copy.
-/// The picture does not change while it is read; any order of reading is allowed, downwards is fast.
+/// The picture does not change while it is read; any order of reading is allowed, downwards is
+/// fast.
 class RowSource {
 public:
     virtual ~RowSource() = default;

@@ -81,7 +81,8 @@ protected:
 TEST_F(ResidentCommandsTest, captureEndsAsTheReportSays)
 {
     serve();
-    const QString text = QString(2'000'000, u'漢') + u"\nend"_s; // More than a socket takes at once.
+    const QString text
+        = QString(2'000'000, u'漢') + u"\nend"_s; // More than a socket takes at once.
     struct Case {
         CaptureReport report;
         Finished expected;

@@ -73,7 +73,7 @@ bool Client::takeLine(const QByteArray& prefix, QByteArray& line)
 {
     m_output += m_process.readAllStandardOutput();
     qsizetype start = 0;
-    for (qsizetype end; (end = m_output.indexOf('\n', start)) >= 0; start = end + 1) {
+    for (qsizetype end = 0; (end = m_output.indexOf('\n', start)) >= 0; start = end + 1) {
         if (m_output.sliced(start).startsWith(prefix)) {
             line = m_output.sliced(start, end - start);
             m_output.remove(start, end + 1 - start);

@@ -82,8 +82,8 @@ QSize coveredBy(const std::vector<Monitor>& monitors)
 
 } // namespace
 
-VirtualDesktop::VirtualDesktop(const DesktopOptions& options)
-    : m_options(options)
+VirtualDesktop::VirtualDesktop(DesktopOptions options)
+    : m_options(std::move(options))
 {
     if (m_options.size.isEmpty())
         m_options.size = coveredBy(m_options.monitors);

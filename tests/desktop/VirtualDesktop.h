@@ -55,7 +55,7 @@ private:
         QProcess process;
     };
 
-    explicit VirtualDesktop(const DesktopOptions& options);
+    explicit VirtualDesktop(DesktopOptions options);
 
     Result<void> startAll();
     Result<void> findPrograms();

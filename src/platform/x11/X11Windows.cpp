@@ -94,7 +94,7 @@ struct Description {
     }
 
     xcb_get_property_cookie_t netName, name, windowClass, types, processId, own;
-    xcb_res_query_client_ids_cookie_t clientIds;
+    xcb_res_query_client_ids_cookie_t clientIds {};
 };
 
 Window described(X11Connection& connection, DesktopEntries& entries, const X11Window& window,
@@ -255,10 +255,10 @@ QList<Window> X11Windows::list()
     const auto managed = clients();
     const QSet<xcb_window_t> isManaged(managed.begin(), managed.end());
     std::vector<X11Window> shown;
-    for (auto& window : locate(stacked().windows))
-        if (window.topLevel && !window.frame().isEmpty()
+    for (const auto& window : locate(stacked().windows))
+        if (window.topLevel != XCB_WINDOW_NONE && !window.frame().isEmpty()
             && (window.viewable || isManaged.contains(window.client)))
-            shown.push_back(std::move(window));
+            shown.push_back(window);
     std::stable_partition(
         shown.begin(), shown.end(), [](const X11Window& window) { return window.viewable; });
 

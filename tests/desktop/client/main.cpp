@@ -17,7 +17,7 @@ bool obeyInput(Window& window, std::string& pending)
     char bytes[4096];
     const ssize_t count = ::read(STDIN_FILENO, bytes, sizeof bytes);
     pending.append(bytes, std::size_t(std::max<ssize_t>(count, 0)));
-    for (std::size_t end; (end = pending.find('\n')) != std::string::npos;) {
+    for (std::size_t end = 0; (end = pending.find('\n')) != std::string::npos;) {
         const std::string line = pending.substr(0, end);
         pending.erase(0, end + 1);
         if (!window.obey(line))
