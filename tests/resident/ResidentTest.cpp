@@ -123,6 +123,39 @@ TEST_F(ResidentTest, capturesWhenItsShortcutIsPressed)
     }));
 }
 
+TEST_F(ResidentTest, capturesAnOpenMenuOfAnotherProgramWhenPreferred)
+{
+    const QString preferences = desktop().home() + u"/.config/Pixmallow/preferences.json"_s;
+    capture(u"screen"_s); // Starts the resident program.
+    const auto menu = open(
+        {u"--override-redirect"_s, u"--pattern"_s, u"8"_s, u"--geometry"_s, u"500,300,200x240"_s});
+    menu.client->send("grab keyboard");
+    ASSERT_FALSE(menu.client->waitForLine("keyboard grabbed").isNull());
+    const QImage open = desktop().rootPixels();
+    const auto before = saved().size();
+
+    QFile file(preferences);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"captureOpenMenus": true})");
+    file.close();
+    // The program takes a moment to see the preference; until then it does not hear the keys.
+    ASSERT_TRUE(waitFor([&] {
+        desktop().key("ctrl+shift+1");
+        return waitFor(
+            [&] { return !equal(desktop().rootPixels(), open); }, std::chrono::milliseconds(700));
+    }));
+    menu.client->send("ungrab keyboard"); // As a menu does that a click outside closes.
+    ASSERT_TRUE(waitFor([&] {
+        desktop().key("space");
+        return waitFor(
+            [&] { return saved().size() == before + 1; }, std::chrono::milliseconds(300));
+    }));
+    const QDir folder(desktop().home() + u"/Pictures/Pixmallow"_s);
+    const auto newest = folder.entryInfoList(QDir::Files, QDir::Time).first();
+    EXPECT_TRUE(equal(QImage(newest.filePath()), open));
+    QFile::remove(preferences);
+}
+
 TEST_F(ResidentTest, capturesTheWindowLastWorkedIn)
 {
     const auto first = open({u"--pattern"_s, u"3"_s, u"--class"_s, u"painter,Painter"_s,
