@@ -14,9 +14,11 @@
 #include <QImageWriter>
 #include <QSet>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
-#include <optional>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -27,23 +29,25 @@ const QString jpegSuffix = u".jpg"_s;
 const QString pngSuffix = u".png"_s;
 const QStringList suffixes {jpegSuffix, pngSuffix};
 
-std::optional<struct stat> statusOf(const QString& path)
+std::int64_t nanoseconds(const timespec& time)
+{
+    return time.tv_sec * 1'000'000'000 + time.tv_nsec;
+}
+
+/// A thumbnail's file has the stamp of its capture as the time of its last writing.
+FileStamp markOf(const QString& path)
 {
     struct stat status { };
     if (stat(QFile::encodeName(path).constData(), &status) != 0)
         return std::nullopt;
-    return status;
+    return nanoseconds(status.st_mtim);
 }
 
-/// Whether a file was written after another one last changed in any way, its name included.
-bool isNewer(const QString& path, const QString& than)
+void mark(const QString& path, std::int64_t stamp)
 {
-    const auto status = statusOf(path);
-    const auto other = statusOf(than);
-    if (!status || !other)
-        return false;
-    const auto written = std::pair(status->st_mtim.tv_sec, status->st_mtim.tv_nsec);
-    return written >= std::pair(other->st_ctim.tv_sec, other->st_ctim.tv_nsec);
+    const timespec time {stamp / 1'000'000'000, stamp % 1'000'000'000};
+    const std::array<timespec, 2> usedAndWritten {time, time};
+    utimensat(AT_FDCWD, QFile::encodeName(path).constData(), usedAndWritten.data(), 0);
 }
 
 bool isOpaque(const QImage& image)
@@ -73,26 +77,36 @@ QByteArray pngOf(const QImage& image)
 
 } // namespace
 
-QImage ThumbnailFiles::read(const HistoryItem& item) const
+FileStamp stampOf(const QString& path)
+{
+    struct stat status { };
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return nanoseconds(status.st_ctim);
+}
+
+QImage ThumbnailFiles::read(const QString& id, FileStamp stamp) const
 {
     for (const QString& suffix : suffixes) {
-        const QString path = pathOf(item.id, suffix);
-        if (isHistoryId(item.id) && isNewer(path, item.path))
+        const QString path = pathOf(id, suffix);
+        if (stamp && isHistoryId(id) && markOf(path) == stamp)
             return QImage(path);
     }
     return {};
 }
 
-void ThumbnailFiles::write(const QString& id, const QImage& thumbnail) const
+void ThumbnailFiles::write(const QString& id, const QImage& thumbnail, FileStamp stamp) const
 {
     remove(id);
-    if (thumbnail.isNull() || !isHistoryId(id) || !ensurePrivateFolder(m_folder))
+    if (thumbnail.isNull() || !stamp || !isHistoryId(id) || !ensurePrivateFolder(m_folder))
         return;
     const bool shinesThrough = thumbnail.hasAlphaChannel();
     const QByteArray bytes = shinesThrough ? pngOf(thumbnail) : jpegOf(thumbnail);
-    if (!bytes.isEmpty()) // What cannot be written is made anew when it is wanted.
-        std::ignore = writeFile(pathOf(id, shinesThrough ? pngSuffix : jpegSuffix), bytes,
-            {AtomicFile::Existing::Replace, AtomicFile::Access::OwnerOnly});
+    const QString path = pathOf(id, shinesThrough ? pngSuffix : jpegSuffix);
+    // What cannot be written is made anew when it is wanted.
+    if (!bytes.isEmpty()
+        && writeFile(path, bytes, {AtomicFile::Existing::Replace, AtomicFile::Access::OwnerOnly}))
+        mark(path, *stamp);
 }
 
 void ThumbnailFiles::remove(const QString& id) const

@@ -6,6 +6,14 @@
 
 #include <QImage>
 
+#include <cstdint>
+#include <optional>
+
+/// When a file last changed in any way, its name included: nanoseconds since 1970. None where there
+/// is no file.
+using FileStamp = std::optional<std::int64_t>;
+FileStamp stampOf(const QString& path);
+
 /// Reduced pictures of captures in a folder, one file each: JPEG, or PNG where something shines
 /// through. Blocks; for one thread at a time, any.
 class ThumbnailFiles final {
@@ -15,11 +23,12 @@ public:
     {
     }
 
-    /// Null where there is none, or it is older than the capture's file.
-    QImage read(const HistoryItem& item) const;
+    /// Null where there is none of that stamp.
+    QImage read(const QString& id, FileStamp stamp) const;
 
     /// Makes the folder. Replaces what is there of the entry.
-    void write(const QString& id, const QImage& thumbnail) const;
+    /// @param stamp of the capture's file when it had these pixels.
+    void write(const QString& id, const QImage& thumbnail, FileStamp stamp) const;
 
     void remove(const QString& id) const;
     void removeAllBut(const QList<HistoryItem>& items) const;

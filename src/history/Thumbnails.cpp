@@ -26,10 +26,10 @@ Thumbnails::~Thumbnails()
 void Thumbnails::make(const HistoryItem& item, const QImage& image)
 {
     const quint64 request = expect(item.id);
-    inOrder([this, item, image, request] {
+    inOrder([this, item, image, request, stamp = stampOf(item.path)] {
         const Thumbnail thumbnail {reduced(image, most), item.points()};
-        m_files.write(item.id, thumbnail.image);
-        deliverLater(item.id, request, thumbnail, Keep::InMemory);
+        m_files.write(item.id, thumbnail.image, stamp);
+        deliverLater(item.id, request, thumbnail);
     });
 }
 
@@ -49,20 +49,21 @@ void Thumbnails::load(const HistoryItem& item, quint64 request)
 {
     if (m_isEnding)
         return;
-    if (const QImage kept = m_files.read(item); !kept.isNull()) {
-        deliverLater(item.id, request, {kept, item.points()}, Keep::InMemory);
+    const FileStamp stamp = stampOf(item.path); // Before the pixels, which may change meanwhile.
+    if (const QImage kept = m_files.read(item.id, stamp); !kept.isNull()) {
+        deliverLater(item.id, request, {kept, item.points()});
         return;
     }
     const QImage image = decoded(item.path);
     if (image.isNull()) {
-        deliverLater(item.id, request, {}, Keep::InMemory);
+        deliverLater(item.id, request, {});
         return;
     }
     HistoryItem found = item; // Another program may have cropped the user's file.
     found.width = image.width();
     found.height = image.height();
     deliverLater(item.id, request, {reduced(image, most), found.points()},
-        found == item ? Keep::InFileToo : Keep::InMemory);
+        found == item ? stamp : std::nullopt);
 }
 
 void Thumbnails::forget(const QStringList& ids)
@@ -99,14 +100,15 @@ quint64 Thumbnails::expect(const QString& id)
 }
 
 void Thumbnails::deliverLater(
-    const QString& id, quint64 request, const Thumbnail& thumbnail, Keep keep)
+    const QString& id, quint64 request, const Thumbnail& thumbnail, FileStamp stamp)
 {
     QMetaObject::invokeMethod(
-        this, [this, id, request, thumbnail, keep] { deliver(id, request, thumbnail, keep); },
+        this, [this, id, request, thumbnail, stamp] { deliver(id, request, thumbnail, stamp); },
         Qt::QueuedConnection);
 }
 
-void Thumbnails::deliver(const QString& id, quint64 request, const Thumbnail& thumbnail, Keep keep)
+void Thumbnails::deliver(
+    const QString& id, quint64 request, const Thumbnail& thumbnail, FileStamp stamp)
 {
     if (m_expected.value(id) != request)
         return; // Removed or replaced meanwhile.
@@ -115,7 +117,7 @@ void Thumbnails::deliver(const QString& id, quint64 request, const Thumbnail& th
         m_unreadable.insert(id);
     else
         m_memory.insert(id, new Thumbnail(thumbnail), thumbnail.image.sizeInBytes());
-    if (keep == Keep::InFileToo)
-        inOrder([this, id, image = thumbnail.image] { m_files.write(id, image); });
+    if (stamp)
+        inOrder([this, id, image = thumbnail.image, stamp] { m_files.write(id, image, stamp); });
     Q_EMIT loaded(id, thumbnail);
 }

@@ -46,13 +46,13 @@ Q_SIGNALS:
     void loaded(const QString& id, const Thumbnail& thumbnail);
 
 private:
-    enum class Keep { InMemory, InFileToo };
-
     void inOrder(std::function<void()> work);
     void load(const HistoryItem& item, quint64 request);
     quint64 expect(const QString& id);
-    void deliverLater(const QString& id, quint64 request, const Thumbnail& thumbnail, Keep keep);
-    void deliver(const QString& id, quint64 request, const Thumbnail& thumbnail, Keep keep);
+    /// @param stamp with which it is to be kept in a file; none where it is there, or shall not be.
+    void deliverLater(const QString& id, quint64 request, const Thumbnail& thumbnail,
+        FileStamp stamp = std::nullopt);
+    void deliver(const QString& id, quint64 request, const Thumbnail& thumbnail, FileStamp stamp);
 
     const ThumbnailFiles m_files; ///< Used on the other thread only.
     QCache<QString, Thumbnail> m_memory {mostBytes};

@@ -84,8 +84,9 @@ TEST_F(ThumbnailsTest, ofOldCapturesArriveLaterWithoutHoldingUpTheAsker)
     timer.start();
     for (const auto& item : store().items())
         EXPECT_FALSE(store().thumbnail(item));
-    EXPECT_LT(timer.elapsed(), 20) << "decoding all of them takes several times as long";
+    const auto asking = timer.elapsed();
     ASSERT_TRUE(arrive(12));
+    EXPECT_LE(asking, timer.elapsed() / 3);
     const QString last = store().items().last().id;
     EXPECT_TRUE(loaded.at(0).first == last || loaded.at(1).first == last) << "asked for last";
     EXPECT_EQ(loaded.first().second.size, QSizeF(960, 540));
@@ -99,7 +100,7 @@ TEST_F(ThumbnailsTest, areKeptInFilesUntilTheCaptureChanges)
     ASSERT_TRUE(arrive(1));
     EXPECT_THAT(names(thumbnails()), ElementsAre(id + u".jpg"_s));
     const QImage mark = sampleImage(9, {40, 30});
-    ASSERT_TRUE(mark.save(thumbnails() + u'/' + id + u".jpg"_s, "jpeg"));
+    ThumbnailFiles(thumbnails()).write(id, mark, stampOf(path));
     EXPECT_FALSE(restarted().thumbnail(newest()));
     ASSERT_TRUE(arrive(1));
     EXPECT_EQ(loaded.first().second.image.size(), mark.size()) << "from the file";
