@@ -112,7 +112,7 @@ pid_t startOwner(const Folders& folders, int start, int outcome)
     if (child != 0)
         return child;
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    char go;
+    char go = 0;
     (void)!read(start, &go, 1);
     const auto server = ControlServer::listen(folders);
     const bool exists = !server && server.error().kind == Error::Kind::Exists;
