@@ -38,6 +38,8 @@ Pending<RegionResult> Rooms::selectRegion(const RegionQuestion& question)
     OverlayStyle style;
     if (const auto accent = m_skins.current().accent())
         style.accent = *accent;
+    else if (const auto desktop = m_platform.appearance->current().accent)
+        style.accent = *desktop;
     style.crosshair = m_prefs.get(Prefs::keys.showCrosshair);
     style.magnifier = m_prefs.get(Prefs::keys.showMagnifier);
     m_overlay = std::make_unique<RegionOverlay>(m_overlayPool, *m_platform.displays, style);

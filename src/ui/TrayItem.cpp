@@ -22,9 +22,9 @@ TrayItem::TrayItem(AppState& state, const Prefs& prefs)
             if (reason == QSystemTrayIcon::Trigger)
                 showMenu();
         });
-    // The delay stands in one of the titles. Some trays copy a menu once, so it changes in place.
+    // Delay and shortcuts stand in the titles. Some trays copy a menu once, so it changes in place.
     connect(&m_prefs, &Prefs::changed, this, [this](const QString& key) {
-        if (key == QLatin1String(Prefs::keys.delaySeconds.name))
+        if (key == QLatin1String(Prefs::keys.delaySeconds.name) || key.startsWith(u"hk."_s))
             fillMenu();
     });
     m_icon.show();
@@ -39,6 +39,8 @@ void TrayItem::fillMenu()
         QString title = info.title;
         if (title.contains(u"%1"_s))
             title = title.arg(m_prefs.get(Prefs::keys.delaySeconds));
+        if (const QString shortcut = m_state.hotkeyLabel(info.kind); !shortcut.isEmpty())
+            title += u'\t' + shortcut; // Menus put it at the right, behind the titles.
         m_menu.addAction(title, this, [this, kind = info.kind] { m_state.capture(kind); });
     }
     m_menu.addSeparator();
