@@ -7,8 +7,8 @@
 #include "platform/Clipboard.h"
 #include "platform/Hotkeys.h"
 #include "platform/Platform.h"
-#include "platform/SurfaceTraits.h"
 #include "platform/SoundOutput.h"
+#include "platform/SurfaceTraits.h"
 #include "platform/Workspace.h"
 
 /// All seams to the operating system, for the resident program.

@@ -29,7 +29,7 @@ private Q_SLOTS: // Found by name.
 
 private:
     void askPortal();
-    void takePortalSettings(QDBusPendingCallWatcher* reply);
+    void takePortalSettings(QDBusPendingCallWatcher* watcher);
     void readFiles();
     void update();
 

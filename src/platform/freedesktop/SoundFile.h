@@ -17,7 +17,7 @@ class SoundFile final {
 public:
     /// Fails with a sentence that names the file. Whatever is no regular file is refused, since
     /// reading it might never end.
-    static Result<std::unique_ptr<SoundFile>> open(const QUrl& file);
+    static Result<std::unique_ptr<SoundFile>> open(const QUrl& url);
 
     int channels() const { return m_info.channels; }
     int rate() const { return m_info.samplerate; } ///< Frames per second.
