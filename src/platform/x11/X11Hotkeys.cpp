@@ -119,7 +119,9 @@ void X11Hotkeys::release(const Registration& registration)
     for (const auto position : registration.positions)
         for (const auto state : withLocks(stateOf(registration.chord), m_masks.locks))
             xcb_ungrab_key(m_connection->xcb(), position, m_connection->root(), state);
-    xcb_flush(m_connection->xcb());
+    // A round trip: when it returns, the next press already goes to whoever has the keyboard.
+    owned(xcb_get_input_focus_reply(
+        m_connection->xcb(), xcb_get_input_focus(m_connection->xcb()), nullptr));
 }
 
 void X11Hotkeys::readEventsSoon()
