@@ -24,6 +24,8 @@ std::optional<Application> X11ActiveApplication::current()
 {
     const auto active
         = m_connection->words(m_connection->property(m_connection->root(), activeWindow));
+    // Waiting for the answer may have read events off the socket, which then would wake nobody.
+    QMetaObject::invokeMethod(this, &X11ActiveApplication::readEvents, Qt::QueuedConnection);
     // Between two windows the property is 0 for a moment.
     const auto window = active.empty() || !active[0] ? std::nullopt : m_windows.find(active[0]);
     return window ? std::optional(window->application) : std::nullopt;
