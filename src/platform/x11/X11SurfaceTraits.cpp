@@ -10,6 +10,7 @@
 #include <QtGui/qguiapplication_platform.h>
 
 #include <cmath>
+#include <vector>
 #include <xcb/shape.h>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +29,21 @@ QScreen* screenOf(const DisplayInfo& display)
     return there ? there : QGuiApplication::primaryScreen();
 }
 
+xcb_window_t focusOf(xcb_connection_t* xcb)
+{
+    const auto focus = owned(xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
+    return focus ? focus->focus : xcb_window_t(XCB_WINDOW_NONE);
+}
+
+bool isOurs(xcb_connection_t* xcb, xcb_window_t window)
+{
+    const auto* const setup = xcb_get_setup(xcb);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
+/// The first two windows that can have the focus stand for none and for the root.
+constexpr xcb_window_t lastSpecialFocus = XCB_INPUT_FOCUS_POINTER_ROOT;
+
 } // namespace
 
 Result<std::unique_ptr<SurfaceTraits>> X11SurfaceTraits::make()
@@ -40,10 +56,53 @@ Result<std::unique_ptr<SurfaceTraits>> X11SurfaceTraits::make()
 
 X11SurfaceTraits::X11SurfaceTraits(xcb_connection_t* xcb)
     : m_xcb(xcb)
+    , m_compositor(xcb, [this] { Q_EMIT blendingChanged(); })
     , m_trail(xcb)
 {
     m_retry.setInterval(grabRetry);
     m_retry.callOnTimeout([this] { tryToGrab(); });
+}
+
+void X11SurfaceTraits::makeFloating(QWindow& window)
+{
+    // Window managers put what they manage below a full-screen window, and activate it when
+    // clicked.
+    window.setFlags(window.flags() | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+        | Qt::X11BypassWindowManagerHint | Qt::NoDropShadowWindowHint);
+}
+
+void X11SurfaceTraits::setInputRegion(QWindow& window, const QRegion& region)
+{
+    const double scale = window.devicePixelRatio();
+    std::vector<xcb_rectangle_t> parts;
+    for (const QRect& rect : region) {
+        const QRect pixels
+            = QRectF(QPointF(rect.topLeft()) * scale, QSizeF(rect.size()) * scale).toAlignedRect();
+        parts.push_back({std::int16_t(pixels.x()), std::int16_t(pixels.y()),
+            std::uint16_t(pixels.width()), std::uint16_t(pixels.height())});
+    }
+    xcb_shape_rectangles(m_xcb, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+        xcb_window_t(window.winId()), 0, 0, std::uint32_t(parts.size()), parts.data());
+    xcb_flush(m_xcb);
+}
+
+void X11SurfaceTraits::takeFocus(QWindow& window)
+{
+    if (const xcb_window_t focus = focusOf(m_xcb); !isOurs(m_xcb, focus))
+        m_focusBefore = focus;
+    xcb_set_input_focus(
+        m_xcb, XCB_INPUT_FOCUS_POINTER_ROOT, xcb_window_t(window.winId()), XCB_CURRENT_TIME);
+    xcb_flush(m_xcb);
+}
+
+void X11SurfaceTraits::returnFocus()
+{
+    const xcb_window_t before = std::exchange(m_focusBefore, XCB_WINDOW_NONE);
+    if (before <= lastSpecialFocus || !isOurs(m_xcb, focusOf(m_xcb)))
+        return;
+    // Should it be gone by now, nothing happens.
+    xcb_set_input_focus(m_xcb, XCB_INPUT_FOCUS_PARENT, before, XCB_CURRENT_TIME);
+    xcb_flush(m_xcb);
 }
 
 void X11SurfaceTraits::makeOverlay(QWindow& window, const DisplayInfo& display)

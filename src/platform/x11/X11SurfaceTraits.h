@@ -4,6 +4,7 @@
 
 #include "base/Result.h"
 #include "platform/SurfaceTraits.h"
+#include "platform/x11/CompositorWatch.h"
 #include "platform/x11/PointerTrail.h"
 
 #include <QPointer>
@@ -17,6 +18,11 @@ public:
     /// Fails when the toolkit draws to something else than an X server.
     static Result<std::unique_ptr<SurfaceTraits>> make();
 
+    bool blendsWindows() const override { return m_compositor.isRunning(); }
+    void makeFloating(QWindow& window) override;
+    void setInputRegion(QWindow& window, const QRegion& region) override;
+    void takeFocus(QWindow& window) override;
+    void returnFocus() override;
     void makeOverlay(QWindow& window, const DisplayInfo& display) override;
     void grabKeyboard(QWindow& window) override;
     void releaseKeyboard() override;
@@ -28,6 +34,8 @@ private:
     void tryToGrab();
 
     xcb_connection_t* m_xcb;
+    CompositorWatch m_compositor;
+    xcb_window_t m_focusBefore = XCB_WINDOW_NONE; ///< Had the keyboard before a window of ours.
     PointerTrail m_trail;
     QPointer<QWindow> m_keyboardTarget; ///< Null while nobody wants the keyboard.
     QTimer m_retry;
