@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <functional>
+
+/// Calls sixty times a second with the time since start(), for pictures that follow from that time
+/// alone. It rests while its owner tells that nothing of it is seen.
+class FrameClock final {
+public:
+    using Frame = std::function<void(double seconds)>;
+
+    explicit FrameClock(Frame frame);
+
+    void start(); ///< From zero.
+    void stop() { m_timer.stop(); }
+    void pause() { m_timer.stop(); } ///< Time goes on, but nobody is told.
+    void resume() { m_timer.start(); }
+    bool isRunning() const { return m_timer.isActive(); }
+    double seconds() const; ///< Since start().
+
+private:
+    Frame m_frame;
+    QElapsedTimer m_elapsed;
+    QTimer m_timer;
+};

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+/// Which file draws which symbol.
+namespace IconFiles {
+
+QStringList symbols();
+bool has(const QString& symbol);
+QString nameOf(const QString& symbol); ///< Without folder and suffix.
+
+} // namespace IconFiles
