@@ -8,15 +8,16 @@
 #include <QEventLoop>
 
 #include <coroutine>
+#include <functional>
 #include <memory>
 
-/// The asking half of one question: co_await it, or wait(), for the one answer. Both halves live on
-/// the main thread.
+/// The asking half of one question: co_await it, or be called back, or wait(), for the one answer.
+/// Both halves live on the main thread.
 template <typename T>
 class [[nodiscard]] Pending {
     struct Exchange {
         std::optional<Result<T>> answer;
-        std::coroutine_handle<> asker;
+        std::function<void()> resume; ///< Goes on with the asker.
     };
 
 public:
@@ -38,9 +39,8 @@ public:
             if (!exchange)
                 return;
             exchange->answer = std::move(result);
-            if (exchange->asker) // Queued: the answerer finishes its event handler first.
-                QMetaObject::invokeMethod(
-                    qApp, [exchange] { exchange->asker.resume(); }, Qt::QueuedConnection);
+            if (exchange->resume)
+                queue(std::exchange(exchange->resume, nullptr));
         }
 
         /// Whether somebody still waits for this answer.
@@ -70,8 +70,23 @@ public:
     }
 
     bool await_ready() const { return m_exchange->answer.has_value(); }
-    void await_suspend(std::coroutine_handle<> asker) { m_exchange->asker = asker; }
+    void await_suspend(std::coroutine_handle<> asker)
+    {
+        m_exchange->resume = [asker] { asker.resume(); };
+    }
     Result<T> await_resume() { return *std::move(m_exchange->answer); }
+
+    /// Calls back with the answer, from the event loop. For widgets, which are no coroutines.
+    void then(std::function<void(Result<T>)> callback) &&
+    {
+        auto resume = [exchange = m_exchange, callback = std::move(callback)] {
+            callback(*std::move(exchange->answer));
+        };
+        if (await_ready())
+            queue(std::move(resume));
+        else
+            m_exchange->resume = std::move(resume);
+    }
 
     /// Runs the event loop until the answer is there: for programs that have nothing else to do.
     Result<T> wait()
@@ -86,5 +101,12 @@ private:
         : m_exchange(std::move(exchange))
     {
     }
+
+    /// The answerer finishes its event handler first.
+    static void queue(std::function<void()> resume)
+    {
+        QMetaObject::invokeMethod(qApp, std::move(resume), Qt::QueuedConnection);
+    }
+
     std::shared_ptr<Exchange> m_exchange;
 };
