@@ -7,7 +7,6 @@ using namespace std::chrono_literals;
 FrameClock::FrameClock(Frame frame)
     : m_frame(std::move(frame))
 {
-    m_elapsed.start();
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(16ms);
     m_timer.callOnTimeout([this] { m_frame(seconds()); });
@@ -21,5 +20,5 @@ void FrameClock::start()
 
 double FrameClock::seconds() const
 {
-    return double(m_elapsed.nsecsElapsed()) / 1e9;
+    return m_elapsed.isValid() ? double(m_elapsed.nsecsElapsed()) / 1e9 : 0;
 }

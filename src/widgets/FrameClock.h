@@ -17,10 +17,8 @@ public:
 
     void start(); ///< From zero.
     void stop() { m_timer.stop(); }
-    void pause() { m_timer.stop(); } ///< Time goes on, but nobody is told.
-    void resume() { m_timer.start(); }
     bool isRunning() const { return m_timer.isActive(); }
-    double seconds() const; ///< Since start().
+    double seconds() const; ///< Since start(); 0 before.
 
 private:
     Frame m_frame;

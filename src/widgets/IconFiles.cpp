@@ -18,7 +18,7 @@ const QHash<QString, QString> files {
     {u"exclamationmark.triangle.fill"_s, u"warning-fill"_s},
     {u"camera.viewfinder"_s, u"scan"_s},
     {u"camera"_s, u"camera"_s},
-    {u"xmark"_s, u"x-bold"_s},
+    {u"xmark"_s, u"x"_s},
     {u"checkmark"_s, u"check"_s},
     {u"checkmark.circle"_s, u"check-circle"_s},
     {u"checkmark.circle.fill"_s, u"check-circle-fill"_s},
