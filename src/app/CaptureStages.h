@@ -3,18 +3,11 @@
 #pragma once
 
 #include "base/Pending.h"
+#include "capture/FinishedCapture.h"
 #include "capture/Region.h"
-#include "capture/Shot.h"
 #include "capture/ToastMessage.h"
 
 #include <functional>
-
-/// A capture that has ended well, and where it went.
-struct FinishedCapture {
-    Shot shot;
-    QString path {}; ///< Of the saved file; empty when none was saved.
-    QString historyId {}; ///< Empty when it is in no history.
-};
 
 struct RecognisedText {
     QString text;

@@ -2,15 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "app/Rooms.h"
 
+using namespace Qt::StringLiterals;
+
 Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     : m_platform(platform)
     , m_prefs(prefs)
     , m_history(folders, prefs)
     , m_fun(folders, prefs)
     , m_skins(prefs, *platform.appearance)
+    , m_themes(m_skins, *platform.appearance)
     , m_synthesisedSounds(folders, prefs, *platform.sound)
     , m_sounds(prefs, m_synthesisedSounds, *platform.sound)
     , m_overlayPool(*platform.surfaces)
+    , m_operations(platform, prefs, folders)
+    , m_preview(
+          {m_themes, *platform.surfaces}, prefs, m_fun, m_operations.actions(), u"Show in Folder"_s)
 {
     m_history.install();
     m_fun.install();
@@ -29,6 +35,10 @@ CaptureStages Rooms::stages()
     stages.countTextCapture = [this] { m_fun.record(FunDeed::TextCopied); };
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
+    };
+    stages.closePreviews = [this] { m_preview.closeAll(); };
+    stages.showPreview = [this](const FinishedCapture& capture, const QString& info) {
+        m_preview.show(capture, info);
     };
     return stages;
 }

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "app/CaptureStages.h"
+#include "app/ShotOperations.h"
 #include "fun/Fun.h"
 #include "history/HistoryStore.h"
 #include "overlay/RegionOverlay.h"
 #include "platform/DesktopPlatform.h"
+#include "preview/PreviewPanel.h"
 #include "skins/Skins.h"
 #include "skins/Sounds.h"
 
@@ -28,8 +30,11 @@ private:
     HistoryStore m_history; ///< Before all that makes the data folder, which it may have to move.
     Fun m_fun;
     Skins m_skins;
+    Themes m_themes;
     SynthSounds m_synthesisedSounds;
     Sounds m_sounds;
     OverlayPool m_overlayPool;
     std::unique_ptr<RegionOverlay> m_overlay; ///< Of the last selection.
+    ShotOperations m_operations;
+    PreviewPanel m_preview;
 };

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "app/ShotOperations.h"
+
+#include "base/Worker.h"
+#include "capture/Files.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Asks for a name in the save folder. Answers once the picture is written there.
+void ask(QFileDialog& dialog, const Shot& shot, ShotActions::Told::Answer answer)
+{
+    const auto shared = std::make_shared<ShotActions::Told::Answer>(std::move(answer));
+    QObject::connect(&dialog, &QDialog::rejected, [shared] { (*shared)(Error::cancelled()); });
+    QObject::connect(&dialog, &QFileDialog::fileSelected, [shared, shot](const QString& path) {
+        auto write = [shot, path]() -> Result<QString> {
+            if (const auto written = Files::write(shot.image, path, shot.scale); !written)
+                return written.error();
+            return u"Saved "_s + QFileInfo(path).fileName();
+        };
+        runOnWorker(write).then([shared](const Result<QString>& saved) { (*shared)(saved); });
+    });
+}
+
+} // namespace
+
+ShotOperations::ShotOperations(
+    DesktopPlatform& platform, const Prefs& prefs, const Folders& folders)
+    : m_platform(platform)
+    , m_prefs(prefs)
+    , m_folders(folders)
+{
+}
+
+ShotActions ShotOperations::actions()
+{
+    ShotActions actions;
+    actions.copy = [this](const FinishedCapture& capture) { return copy(capture); };
+    actions.saveAs = [this](const FinishedCapture& capture, QWidget*) { return saveAs(capture); };
+    actions.reveal = [this](const FinishedCapture& capture) {
+        Files::reveal(*m_platform.workspace, capture.path, m_prefs.saveFolder());
+    };
+    actions.file = [this](const FinishedCapture& capture) { return file(capture); };
+    return actions;
+}
+
+ShotActions::Told ShotOperations::copy(const FinishedCapture& capture)
+{
+    auto [told, answer] = ShotActions::Told::ask();
+    auto encode
+        = [shot = capture.shot] { return Files::encode(shot.image, ImageType::Png, shot.scale); };
+    const auto shared = std::make_shared<ShotActions::Told::Answer>(std::move(answer));
+    runOnWorker(encode).then([this, shot = capture.shot, shared](const Result<QByteArray>& png) {
+        Files::copy(*m_platform.clipboard, shot.image, shot.scale, png ? *png : QByteArray());
+        (*shared)(u"Copied to clipboard"_s);
+    });
+    return std::move(told);
+}
+
+ShotActions::Told ShotOperations::saveAs(const FinishedCapture& capture)
+{
+    auto [told, answer] = ShotActions::Told::ask();
+    const QString folder = m_prefs.saveFolder();
+    Files::ensureFolder(folder);
+    auto* dialog = new QFileDialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(u"Save As…"_s);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({u"PNG (*.png)"_s, u"JPEG (*.jpg *.jpeg)"_s});
+    dialog->setDefaultSuffix(u"png"_s);
+    dialog->selectFile(
+        Files::nextURL(folder, u"png"_s, u"Screenshot"_s, QDateTime::currentDateTime()));
+    ask(*dialog, capture.shot, std::move(answer));
+    dialog->open();
+    return std::move(told);
+}
+
+std::optional<QString> ShotOperations::file(const FinishedCapture& capture) const
+{
+    if (QFileInfo::exists(capture.path))
+        return capture.path;
+    return Files::tempPNG(
+        capture.shot.image, capture.shot.scale, m_folders, QDateTime::currentDateTime());
+}

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "tests/gallery/Gallery.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Set to write the pictures anew, which then are to be looked at.
+constexpr char renewal[] = "PIXMALLOW_NEW_GOLDEN_IMAGES";
+
+struct Dress {
+    QString skin;
+    bool dark;
+};
+
+/// The part of pixels that anyone would see are others.
+double difference(const QImage& one, const QImage& other)
+{
+    constexpr int visible = 24; // Of 255, in any of the colours.
+    if (one.size() != other.size())
+        return 1;
+    qint64 differing = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            differing += std::abs(qRed(a) - qRed(b)) > visible
+                || std::abs(qGreen(a) - qGreen(b)) > visible
+                || std::abs(qBlue(a) - qBlue(b)) > visible;
+        }
+    return double(differing) / (double(one.width()) * one.height());
+}
+
+} // namespace
+
+TEST(GalleryTest, looksAsItDidWhenLookedAt)
+{
+    constexpr double tolerance = 0.005;
+    const QDir golden(QStringLiteral(GOLDEN_IMAGES));
+    const QDir failed(QDir::current().filePath(u"gallery-failed"_s));
+    GalleryWorld world;
+    for (const Dress& dress :
+        {Dress {u"default"_s, false}, Dress {u"default"_s, true}, Dress {u"kawaii"_s, false}}) {
+        world.wear(dress.skin, dress.dark);
+        for (const Scene& scene : scenes()) {
+            const QString name = u"%1-%2-%3.png"_s.arg(
+                scene.name, dress.skin, dress.dark ? u"dark"_s : u"light"_s);
+            const QImage image = rendered(scene, world).convertToFormat(QImage::Format_RGB32);
+            if (qEnvironmentVariableIsSet(renewal)) {
+                ASSERT_TRUE(image.save(golden.filePath(name)));
+                continue;
+            }
+            const double changed = difference(image, QImage(golden.filePath(name)));
+            EXPECT_LE(changed, tolerance) << name.toStdString();
+            if (changed > tolerance) {
+                failed.mkpath(u"."_s);
+                image.save(failed.filePath(name));
+            }
+        }
+    }
+}

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "preview/PreviewView.h"
+#include "tests/gallery/Gallery.h"
+#include "widgets/GlassButton.h"
+#include "widgets/Icons.h"
+#include "widgets/TextLabel.h"
+
+#include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+ShotActions everyAction()
+{
+    ShotActions actions;
+    actions.edit = [](const FinishedCapture&) {};
+    actions.pin = actions.edit;
+    actions.reveal = actions.edit;
+    actions.copy = [](const FinishedCapture&) { return ShotActions::Told::answered(u""_s); };
+    actions.saveAs
+        = [](const FinishedCapture&, QWidget*) { return ShotActions::Told::answered(u""_s); };
+    actions.share = actions.saveAs;
+    return actions;
+}
+
+std::unique_ptr<QWidget> preview(
+    GalleryWorld& world, QSize pixels, const QString& effect, const PetReaction& reaction)
+{
+    world.prefs.set(Prefs::keys.previewEffect, effect);
+    const QString info = u"%1 × %2  •  Copied  •  Saved"_s.arg(pixels.width()).arg(pixels.height());
+    return std::make_unique<PreviewView>(world.themes, world.prefs, everyAction(),
+        PreviewView::Content {{{GalleryWorld::picture(pixels), 1, u"Terminal"_s, {}}}, info,
+            reaction, u"Show in Folder"_s});
+}
+
+std::unique_ptr<QWidget> buttons(GalleryWorld& world)
+{
+    using Look = GlassButton::Look;
+    auto widget = std::make_unique<QWidget>();
+    auto* row = new QHBoxLayout(widget.get());
+    row->setContentsMargins(Space::window, Space::window, Space::window, Space::window);
+    row->addWidget(GlassButton::ofText(world.themes, u"Get Started"_s, Look::Prominent));
+    auto* both = GlassButton::ofText(world.themes, u"Copy text"_s);
+    both->setSymbol(u"text.viewfinder"_s);
+    row->addWidget(both);
+    for (const Look look : {Look::Glass, Look::Plain})
+        row->addWidget(GlassButton::ofSymbol(world.themes, u"doc.on.doc"_s, u"Copy"_s, look));
+    auto* disabled = GlassButton::ofSymbol(world.themes, u"pin"_s, u"Pin"_s);
+    disabled->setEnabled(false);
+    row->addWidget(disabled);
+    return widget;
+}
+
+std::unique_ptr<QWidget> letters(GalleryWorld& world)
+{
+    auto widget = std::make_unique<QWidget>();
+    auto* column = new QVBoxLayout(widget.get());
+    column->setContentsMargins(Space::window, Space::group, Space::window, Space::group);
+    const auto add = [&](TextStyle style, const QString& text, TextLabel::Role role) {
+        auto* label = new TextLabel(world.themes, style, role);
+        label->setText(text);
+        column->addWidget(label);
+    };
+    add(TextStyle::Title1, u"Title 1"_s, TextLabel::Role::Text);
+    add(TextStyle::Title2, u"Title 2"_s, TextLabel::Role::Text);
+    add(TextStyle::Headline, u"A headline"_s, TextLabel::Role::Text);
+    add(TextStyle::Body, u"Body text, as in settings"_s, TextLabel::Role::Text);
+    add(TextStyle::Callout, u"A callout, secondary"_s, TextLabel::Role::Secondary);
+    add(TextStyle::Caption, u"A caption, secondary"_s, TextLabel::Role::Secondary);
+    return widget;
+}
+
+} // namespace
+
+const QList<Scene>& scenes()
+{
+    static const QList<Scene> list {
+        {u"buttons"_s, Scene::Ground::Window, buttons},
+        {u"letters"_s, Scene::Ground::Window, letters},
+        {u"preview"_s, Scene::Ground::Card,
+            [](GalleryWorld& world) {
+                return preview(world, {2880, 1800}, u"comet"_s, {u"🐣"_s, u"slay"_s, 10});
+            }},
+        {u"preview-wide"_s, Scene::Ground::Card,
+            [](GalleryWorld& world) {
+                return preview(
+                    world, {1600, 240}, u"spin"_s, {u"🐣"_s, u"certified screenshot moment"_s, 25});
+            }},
+    };
+    return list;
+}
