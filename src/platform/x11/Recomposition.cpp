@@ -91,6 +91,7 @@ public:
         const std::vector<xcb_rectangle_t>& holes)
         : m_connection(connection)
         , m_xcb(connection.xcb())
+        , m_pixmap(target)
         , m_area(area)
         , m_formats(formats(m_xcb))
         , m_composited(connection.isComposited())
@@ -107,7 +108,7 @@ public:
         xcb_render_free_picture(m_xcb, m_target);
     }
 
-    void background()
+    void background(const std::vector<Layer>& layers)
     {
         xcb_xfixes_set_picture_clip_region(m_xcb, m_target, m_holes, 0, 0);
         const auto wallpaper
@@ -115,6 +116,8 @@ public:
         if (!wallpaper.empty())
             composite(wallpaper[0], m_formats.opaque, QRect({}, m_connection.rootSize()),
                 XCB_RENDER_PICT_OP_SRC, ~0u);
+        else if (m_composited)
+            compositorsBackground(layers);
         else
             bareBackground();
     }
@@ -142,6 +145,35 @@ public:
     }
 
 private:
+    /// A compositing manager without a wallpaper has a plain colour of its own. It is seen wherever
+    /// there is no window; if that is nowhere, it is not missed much.
+    void compositorsBackground(const std::vector<Layer>& layers)
+    {
+        std::vector<QPoint> candidates {m_area.topLeft(), m_area.topRight(), m_area.bottomLeft()};
+        for (const Layer& layer : layers)
+            candidates.push_back(layer.rect.topLeft() - QPoint(1, 1));
+        const auto bare = std::ranges::find_if(candidates, [&](QPoint at) {
+            return m_area.contains(at) && std::ranges::none_of(layers, [at](const Layer& layer) {
+                return layer.rect.contains(at);
+            });
+        });
+        xcb_render_color_t colour {0, 0, 0, 0xffff};
+        if (bare != candidates.end()) {
+            const QPoint at = *bare - m_area.topLeft();
+            const auto image = owned(xcb_get_image_reply(m_xcb,
+                xcb_get_image(m_xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, m_pixmap, std::int16_t(at.x()),
+                    std::int16_t(at.y()), 1, 1, ~0u),
+                nullptr));
+            if (image && xcb_get_image_data_length(image.get()) >= 3) {
+                const std::uint8_t* const pixel = xcb_get_image_data(image.get());
+                const auto wide = [](int part) { return std::uint16_t(part * 0x101); };
+                colour = {wide(pixel[2]), wide(pixel[1]), wide(pixel[0]), 0xffff};
+            }
+        }
+        const auto everywhere = rectangle({{}, m_area.size()});
+        xcb_render_fill_rectangles(m_xcb, XCB_RENDER_PICT_OP_SRC, m_target, colour, 1, &everywhere);
+    }
+
     /// A root window does not tell its background. But a child can borrow it, and a child that is
     /// redirected by hand is never seen: the server paints it off screen only.
     void bareBackground()
@@ -154,7 +186,6 @@ private:
             XCB_CW_BACK_PIXMAP | XCB_CW_OVERRIDE_REDIRECT, values);
         const std::uint32_t below = XCB_STACK_MODE_BELOW;
         xcb_configure_window(m_xcb, window, XCB_CONFIG_WINDOW_STACK_MODE, &below);
-        // Refused where a compositing manager has redirected all windows by hand; just as good.
         xcb_composite_redirect_window(m_xcb, window, XCB_COMPOSITE_REDIRECT_MANUAL);
         xcb_map_window(m_xcb, window);
         const xcb_pixmap_t pixels = xcb_generate_id(m_xcb);
@@ -184,6 +215,7 @@ private:
 
     X11Connection& m_connection;
     xcb_connection_t* m_xcb;
+    xcb_pixmap_t m_pixmap;
     QRect m_area;
     Formats m_formats;
     bool m_composited;
@@ -210,7 +242,7 @@ void paintWithout(X11Connection& connection, const X11Windows& windows, xcb_pixm
         return;
 
     Painter painter(connection, picture, area, holes);
-    painter.background();
+    painter.background(layers);
     for (const auto& layer : layers)
         if (!excludedTopLevels.contains(layer.window) && layer.rect.intersects(bounds))
             painter.layer(layer);
