@@ -29,6 +29,7 @@ void PreviewPanel::show(const FinishedCapture& capture, const QString& info)
     auto* view = new PreviewView(
         m_surroundings.themes, m_prefs, m_actions, {capture, info, reaction, m_revealTitle});
     QObject::connect(view, &PreviewView::closeRequested, panel, [this, panel] { close(panel); });
+    QObject::connect(panel, &FloatingPanel::escaped, panel, [this, panel] { close(panel); });
     panel->host(view);
     panel->presentBottomRight(Space::group);
     m_panels.push_back(panel);

@@ -11,9 +11,9 @@
 #include "widgets/TextLabel.h"
 
 #include <QDrag>
-#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QPointer>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -237,12 +237,4 @@ void PreviewView::paintEvent(QPaintEvent*)
     painter.setBrush(colour);
     const QRectF bar(0, height() - barHeight, width() * left, barHeight);
     painter.drawRoundedRect(bar, barHeight / 2, barHeight / 2);
-}
-
-void PreviewView::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        Q_EMIT closeRequested();
-    else
-        QWidget::keyPressEvent(event);
 }

@@ -6,6 +6,7 @@
 #include "widgets/PanelPlacement.h"
 
 #include <QCursor>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
@@ -153,6 +154,14 @@ void FloatingPanel::takeFocus()
 {
     m_hasFocus = true;
     m_surroundings.surfaces.takeFocus(*windowHandle());
+}
+
+void FloatingPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT escaped();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void FloatingPanel::mousePressEvent(QMouseEvent* event)

@@ -42,12 +42,16 @@ public:
 
     QRect card() const; ///< In points of the desktop, y down.
 
+Q_SIGNALS:
+    void escaped(); ///< The Escape key was pressed, and nobody in it needed that.
+
 protected:
     const Theme& theme() const { return m_surroundings.themes.current(); }
 
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -109,6 +109,6 @@ TEST_F(PreviewPanelTest, opensTheEditorByAClickAndOffersOnlyWhatThereIs)
     EXPECT_EQ(edited, u"seven"_s);
     EXPECT_TRUE(QTest::qWaitFor([] { return cards().isEmpty(); }));
     show();
-    QTest::keyClick(view(), Qt::Key_Escape);
+    QTest::keyClick(cards().first(), Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor([] { return cards().isEmpty(); }));
 }

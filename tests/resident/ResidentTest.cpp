@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
-#include "tests/desktop/DesktopTest.h"
+#include "tests/resident/ResidentDesktop.h"
 
 #include <gmock/gmock.h>
 
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
@@ -24,49 +21,8 @@ DesktopOptions twoMonitors()
     return options;
 }
 
-/// The real programs on a real X server: what a user and a script see of the resident one.
-template <DesktopOptions (*options)()>
-class ResidentDesktop : public DesktopTest<options> {
-protected:
-    using Base = DesktopTest<options>;
-
-    void TearDown() override { pixmallow({u"quit"_s}); }
-
-    VirtualDesktop::Finished pixmallow(const QStringList& arguments)
-    {
-        const auto finished = Base::desktop().run(u"pixmallow"_s, arguments);
-        EXPECT_TRUE(finished) << finished.error().message.toStdString();
-        return finished ? *finished : VirtualDesktop::Finished {-1, {}, {}};
-    }
-
-    QJsonObject capture(const QString& kind)
-    {
-        const auto finished = pixmallow({u"capture"_s, kind, u"--wait"_s, u"--json"_s});
-        EXPECT_EQ(finished.exitCode, 0) << finished.errors.toStdString();
-        return QJsonDocument::fromJson(finished.output).object();
-    }
-
-    QStringList saved() { return saved(QDir::Files); }
-    QStringList saved(QDir::Filters filters)
-    {
-        return QDir(Base::desktop().home() + u"/Pictures/Pixmallow"_s).entryList(filters);
-    }
-
-    QByteArray clipboard(const QString& type)
-    {
-        const auto read = Base::desktop().run(
-            u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-o"_s, u"-t"_s, type});
-        return read ? read->output : QByteArray();
-    }
-};
-
 using ResidentTest = ResidentDesktop<plainDesktop>;
 using TwoMonitorResidentTest = ResidentDesktop<twoMonitors>;
-
-bool equal(const QImage& a, const QImage& b)
-{
-    return a.convertToFormat(QImage::Format_RGB32) == b.convertToFormat(QImage::Format_RGB32);
-}
 
 QByteArray contentOf(const QString& path)
 {

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tests/desktop/DesktopTest.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+/// The real programs on a real X server: what a user and a script see of the resident one.
+template <DesktopOptions (*options)()>
+class ResidentDesktop : public DesktopTest<options> {
+protected:
+    using Base = DesktopTest<options>;
+
+    void TearDown() override { pixmallow({QStringLiteral("quit")}); }
+
+    VirtualDesktop::Finished pixmallow(const QStringList& arguments)
+    {
+        const auto finished = Base::desktop().run(QStringLiteral("pixmallow"), arguments);
+        EXPECT_TRUE(finished) << finished.error().message.toStdString();
+        return finished ? *finished : VirtualDesktop::Finished {-1, {}, {}};
+    }
+
+    QJsonObject capture(const QString& kind)
+    {
+        const auto finished = pixmallow(
+            {QStringLiteral("capture"), kind, QStringLiteral("--wait"), QStringLiteral("--json")});
+        EXPECT_EQ(finished.exitCode, 0) << finished.errors.toStdString();
+        return QJsonDocument::fromJson(finished.output).object();
+    }
+
+    QStringList saved() { return saved(QDir::Files); }
+    QStringList saved(QDir::Filters filters)
+    {
+        return QDir(Base::desktop().home() + QStringLiteral("/Pictures/Pixmallow"))
+            .entryList(filters);
+    }
+
+    QByteArray clipboard(const QString& type)
+    {
+        const auto read = Base::desktop().run(QStringLiteral("xclip"),
+            {QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-o"),
+                QStringLiteral("-t"), type});
+        return read ? read->output : QByteArray();
+    }
+};
+
+/// Whether two pictures look the same, alpha aside.
+inline bool equal(const QImage& a, const QImage& b)
+{
+    return a.convertToFormat(QImage::Format_RGB32) == b.convertToFormat(QImage::Format_RGB32);
+}
