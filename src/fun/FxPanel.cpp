@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "fun/FxPanel.h"
+
+#include <QExposeEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+/// Pixels of the squares in which changes are counted.
+constexpr double tileSide = 32;
+
+QSize pointsOf(const DisplayInfo& display)
+{
+    const auto points = [&display](int pixels) { return int(std::ceil(pixels / display.scale)); };
+    return {points(display.native.width()), points(display.native.height())};
+}
+
+qint64 pixelsOf(const QRegion& points, double scale)
+{
+    double area = 0;
+    for (const QRect& rect : points)
+        area += double(rect.width()) * rect.height();
+    return std::llround(area * scale * scale);
+}
+
+} // namespace
+
+FxPanel::FxPanel(SurfaceTraits& surfaces, const DisplayInfo& display,
+    std::unique_ptr<FxScene> scene, const QImage& picture)
+    : m_surfaces(surfaces)
+    , m_display(display)
+    , m_scene(std::move(scene))
+    , m_painter(picture)
+    , m_store(this)
+    , m_clock([this](double seconds) { paintAt(seconds); })
+    , m_drawn(pointsOf(display), int(std::ceil(tileSide / display.scale)))
+    , m_drawing(m_drawn)
+{
+    setSurfaceType(QSurface::RasterSurface);
+    QSurfaceFormat blended = format();
+    blended.setAlphaBufferSize(8);
+    setFormat(blended);
+    setFlags(Qt::Tool | Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus
+        | Qt::NoDropShadowWindowHint);
+    m_surfaces.makeOverlay(*this, display);
+}
+
+void FxPanel::play()
+{
+    if (m_surfaces.blendsWindows())
+        setMask(reach()); // The less of the screen has to be blended, the better.
+    else
+        cutToDrawn(m_scene->at(0));
+    show();
+    m_clock.start();
+    paintAt(0);
+}
+
+QRegion FxPanel::reach() const
+{
+    return QRegion(m_scene->bounds().toAlignedRect()) & QRect({}, pointsOf(m_display));
+}
+
+qint64 FxPanel::paintAt(double seconds)
+{
+    const FxSprites sprites = m_scene->at(seconds);
+    m_drawing.clear();
+    for (const auto& sprite : sprites)
+        m_drawing.add(sprite.box());
+    m_drawn.add(m_drawing);
+    QRegion changed = m_drawn.region() & reach();
+    std::swap(m_drawn, m_drawing);
+    if (std::exchange(m_fresh, false)) {
+        m_store.resize(pointsOf(m_display));
+        changed = reach();
+    }
+    if (changed.isEmpty())
+        return 0;
+    m_store.beginPaint(changed); // Clears it.
+    QPainter painter(m_store.paintDevice());
+    m_painter.paint(painter, sprites);
+    painter.end();
+    m_store.endPaint();
+    if (!m_surfaces.blendsWindows())
+        cutToDrawn(sprites);
+    m_store.flush(changed);
+    return pixelsOf(changed, m_display.scale);
+}
+
+void FxPanel::cutToDrawn(const FxSprites& sprites)
+{
+    QRegion drawn;
+    for (const auto& sprite : sprites)
+        if (sprite.shape == FxSprite::Shape::Square && qAlpha(sprite.colour) == 255)
+            drawn += QRectF(
+                sprite.centre - QPointF(sprite.size.width(), sprite.size.height()) / 2, sprite.size)
+                         .toAlignedRect();
+    if (drawn.isEmpty())
+        hide(); // To the toolkit an empty mask is none.
+    else
+        setMask(drawn & QRect({}, pointsOf(m_display)));
+}
+
+void FxPanel::exposeEvent(QExposeEvent*)
+{
+    if (isExposed() && !m_fresh)
+        m_store.flush(reach());
+}
