@@ -18,29 +18,32 @@ constexpr ShadowStyle shadowStyle {32, 10, 1};
 
 /// Of the smallest card whose corners do not meet: it has all that a shadow of any size consists
 /// of.
-constexpr int sampleSide = 2 * int(shadowStyle.blur + Radius::card) + 2;
-
-QImage cardShape(double scale)
+double sampleSide(double radius)
 {
-    const int side = int(std::ceil(sampleSide * scale));
+    return 2 * (shadowStyle.blur + radius) + 2;
+}
+
+QImage cardShape(double radius, double scale)
+{
+    const int side = int(std::ceil(sampleSide(radius) * scale));
     QImage shape(side, side, QImage::Format_ARGB32_Premultiplied);
     shape.fill(Qt::transparent);
     QPainter painter(&shape);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
-    painter.drawRoundedRect(shape.rect(), Radius::card * scale, Radius::card * scale);
+    painter.drawRoundedRect(shape.rect(), radius * scale, radius * scale);
     return shape;
 }
 
-/// The shadow around a card, without what the card covers. Painted once for each colour and scale.
-QPixmap shadowSample(const QColor& colour, double scale)
+/// The shadow around a card, without what the card covers. Painted once for each kind.
+QPixmap shadowSample(double radius, const QColor& colour, double scale)
 {
-    const QString key = u"card-shadow-%1-%2"_s.arg(colour.rgba(), 8, 16).arg(scale);
+    const QString key = u"card-shadow-%1-%2-%3"_s.arg(colour.rgba(), 8, 16).arg(radius).arg(scale);
     QPixmap sample;
     if (QPixmapCache::find(key, &sample))
         return sample;
-    const QImage shape = cardShape(scale);
+    const QImage shape = cardShape(radius, scale);
     Bitmap window(shape.size(), PixelFormat::Argb32Premultiplied);
     for (int y = 0; y < shape.height(); ++y)
         std::memcpy(window.row(y), shape.constScanLine(y), std::size_t(shape.width()) * 4);
@@ -61,36 +64,6 @@ QPixmap shadowSample(const QColor& colour, double scale)
     return sample;
 }
 
-/// The sample's corners as they are, its middle stretched.
-void paintShadow(QPainter& painter, QRectF card, const QColor& colour)
-{
-    const double scale = painter.device()->devicePixelRatioF();
-    const QPixmap sample = shadowSample(colour, scale);
-    const QMargins margins = CardFrame::shadowMargins();
-    const QRectF outer = card.marginsAdded(margins);
-    const double corner = Radius::card + shadowStyle.blur;
-    const double left = margins.left() + corner;
-    const double top = margins.top() + corner;
-    const double right = margins.right() + corner;
-    const double bottom = margins.bottom() + corner;
-    const double sampleRight = sample.width() / scale - right;
-    const double sampleBottom = sample.height() / scale - bottom;
-    const double xs[] {0, left, outer.width() - right, outer.width()};
-    const double ys[] {0, top, outer.height() - bottom, outer.height()};
-    const double sampleXs[] {0, left, sampleRight, sample.width() / scale};
-    const double sampleYs[] {0, top, sampleBottom, sample.height() / scale};
-    for (int row = 0; row < 3; ++row)
-        for (int column = 0; column < 3; ++column) {
-            if (row == 1 && column == 1)
-                continue;
-            const QRectF to(outer.topLeft() + QPointF(xs[column], ys[row]),
-                outer.topLeft() + QPointF(xs[column + 1], ys[row + 1]));
-            const QRectF from(QPointF(sampleXs[column], sampleYs[row]) * scale,
-                QPointF(sampleXs[column + 1], sampleYs[row + 1]) * scale);
-            painter.drawPixmap(to, sample, from);
-        }
-}
-
 } // namespace
 
 QMargins CardFrame::shadowMargins()
@@ -107,13 +80,48 @@ QPainterPath CardFrame::outline(QRectF card)
     return path;
 }
 
+void CardFrame::paintShadow(QPainter& painter, QRectF card, double radius, const QColor& colour)
+{
+    // The sample's corners as they are, its middle stretched.
+    const double scale = painter.device()->devicePixelRatioF();
+    const QPixmap sample = shadowSample(radius, colour, scale);
+    const QMargins margins = shadowMargins();
+    const QRectF outer = card.marginsAdded(margins);
+    const double corner = radius + shadowStyle.blur;
+    const double left = margins.left() + corner;
+    const double top = margins.top() + corner;
+    const double right = margins.right() + corner;
+    const double bottom = margins.bottom() + corner;
+    const double sampleRight = sample.width() / scale - right;
+    const double sampleBottom = sample.height() / scale - bottom;
+    // On a smaller card than the sample the corners are squeezed.
+    const double across = std::min(corner, card.width() / 2);
+    const double along = std::min(corner, card.height() / 2);
+    const double xs[] {
+        0, margins.left() + across, outer.width() - margins.right() - across, outer.width()};
+    const double ys[] {
+        0, margins.top() + along, outer.height() - margins.bottom() - along, outer.height()};
+    const double sampleXs[] {0, left, sampleRight, sample.width() / scale};
+    const double sampleYs[] {0, top, sampleBottom, sample.height() / scale};
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 3; ++column) {
+            if (row == 1 && column == 1)
+                continue;
+            const QRectF to(outer.topLeft() + QPointF(xs[column], ys[row]),
+                outer.topLeft() + QPointF(xs[column + 1], ys[row + 1]));
+            const QRectF from(QPointF(sampleXs[column], sampleYs[row]) * scale,
+                QPointF(sampleXs[column + 1], sampleYs[row + 1]) * scale);
+            painter.drawPixmap(to, sample, from);
+        }
+}
+
 void CardFrame::paint(QPainter& painter, QRectF card, const Theme& theme, Ground ground)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     QColor fill = theme.card;
     if (ground == Ground::Blended)
-        paintShadow(painter, card, theme.shadow);
+        paintShadow(painter, card, Radius::card, theme.shadow);
     else
         fill.setAlphaF(1);
     painter.fillPath(outline(card), fill);

@@ -23,4 +23,7 @@ QPainterPath outline(QRectF card);
 /// @param card in points of the painter's surface; the shadow falls outside of it.
 void paint(QPainter& painter, QRectF card, const Theme& theme, Ground ground);
 
+/// The shadow alone, of a card with corners of this radius; nothing where the card is.
+void paintShadow(QPainter& painter, QRectF card, double radius, const QColor& colour);
+
 } // namespace CardFrame
