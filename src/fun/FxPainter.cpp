@@ -96,8 +96,14 @@ FxPainter::FxPainter(const QImage& picture)
 void FxPainter::paint(QPainter& painter, const FxSprites& sprites)
 {
     painter.setPen(Qt::NoPen);
-    for (const auto& sprite : sprites)
+    // There is nothing below the first one, which may fill the whole screen.
+    const bool fills = !sprites.empty() && sprites.front().shape == FxSprite::Shape::Square;
+    if (fills)
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (const auto& sprite : sprites) {
         paint(painter, sprite);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    }
 }
 
 void FxPainter::paint(QPainter& painter, const FxSprite& sprite)

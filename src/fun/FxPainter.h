@@ -18,7 +18,7 @@ public:
     /// @param picture what sprites of that shape show; may be null
     explicit FxPainter(const QImage& picture);
 
-    /// On a device whose pixel ratio says how large a point is.
+    /// On a device that is transparent, and whose pixel ratio says how large a point is.
     void paint(QPainter& painter, const FxSprites& sprites);
 
 private:

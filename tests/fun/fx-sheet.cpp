@@ -67,10 +67,13 @@ int main(int argc, char** argv)
     QImage sheet(columns * 640, frames / columns * 400, QImage::Format_RGB32);
     QPainter onSheet(&sheet);
     for (int frame = 0; frame < frames; ++frame) {
+        QImage layer(screen, QImage::Format_ARGB32_Premultiplied);
+        layer.fill(Qt::transparent);
+        QPainter onLayer(&layer);
+        painter.paint(onLayer, scene->at(plan.duration * (frame + 0.3) / frames));
+        onLayer.end();
         QImage picture = desktop;
-        QPainter onPicture(&picture);
-        painter.paint(onPicture, scene->at(plan.duration * (frame + 0.3) / frames));
-        onPicture.end();
+        QPainter(&picture).drawImage(0, 0, layer);
         onSheet.drawImage(frame % columns * 640, frame / columns * 400,
             picture.scaled(640, 400, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
