@@ -15,8 +15,9 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_sounds(prefs, m_synthesisedSounds, *platform.sound)
     , m_overlayPool(*platform.surfaces)
     , m_operations(platform, prefs, folders)
-    , m_preview(
-          {m_themes, *platform.surfaces}, prefs, m_fun, m_operations.actions(), u"Show in Folder"_s)
+    , m_pins({m_themes, *platform.surfaces}, actions())
+    , m_preview({m_themes, *platform.surfaces}, prefs, m_fun, actions(), u"Show in Folder"_s)
+    , m_effects({*platform.displays, *platform.surfaces, m_themes, prefs})
 {
     m_history.install();
     m_fun.install();
@@ -26,11 +27,21 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     m_skins.apply();
 }
 
+ShotActions Rooms::actions()
+{
+    ShotActions actions = m_operations.actions();
+    actions.pin = [this](const FinishedCapture& capture) { m_pins.show(capture.shot); };
+    return actions;
+}
+
 CaptureStages Rooms::stages()
 {
     CaptureStages stages;
     stages.selectRegion = [this](const RegionQuestion& question) { return selectRegion(question); };
     stages.playShutter = [this] { m_sounds.playShutter(); };
+    stages.playEffect = [this](QRectF area, const QImage& image) {
+        m_effects.play(m_effects.current(), area, image);
+    };
     stages.countCapture = [this] { m_fun.capture(); };
     stages.countTextCapture = [this] { m_fun.record(FunDeed::TextCopied); };
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {

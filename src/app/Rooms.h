@@ -4,10 +4,12 @@
 
 #include "app/CaptureStages.h"
 #include "app/ShotOperations.h"
+#include "fun/CaptureFx.h"
 #include "fun/Fun.h"
 #include "history/HistoryStore.h"
 #include "overlay/RegionOverlay.h"
 #include "platform/DesktopPlatform.h"
+#include "preview/Pins.h"
 #include "preview/PreviewPanel.h"
 #include "skins/Skins.h"
 #include "skins/Sounds.h"
@@ -19,10 +21,14 @@ public:
 
     CaptureStages stages();
 
+    CaptureFx& effects() { return m_effects; }
+    Pins& pins() { return m_pins; }
+
     /// Takes back what the user is being asked; whoever waits for it hears Cancelled.
     void cancelQuestions() { m_overlay.reset(); }
 
 private:
+    ShotActions actions();
     Pending<RegionResult> selectRegion(const RegionQuestion& question);
 
     DesktopPlatform& m_platform;
@@ -36,5 +42,7 @@ private:
     OverlayPool m_overlayPool;
     std::unique_ptr<RegionOverlay> m_overlay; ///< Of the last selection.
     ShotOperations m_operations;
+    Pins m_pins;
     PreviewPanel m_preview;
+    CaptureFx m_effects;
 };

@@ -49,6 +49,12 @@ void TrayItem::fillMenu()
 
 void TrayItem::showMenu()
 {
+    const auto icon = position();
+    m_menu.popup(icon ? icon->toPoint() : QCursor::pos());
+}
+
+std::optional<QPointF> TrayItem::position() const
+{
     const QRect icon = m_icon.geometry();
-    m_menu.popup(icon.isValid() ? icon.center() : QCursor::pos());
+    return icon.isValid() ? std::optional(QRectF(icon).center()) : std::nullopt;
 }

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QSystemTrayIcon>
 
+#include <optional>
+
 class AppState;
 
 /// The program's place in the tray: captures and quit. Where no tray runs, nothing is shown until
@@ -19,6 +21,9 @@ public:
 
     /// At the icon where its place is known, else at the pointer.
     void showMenu();
+
+    /// The middle of the icon in points of the desktop, y down; none where the tray does not tell.
+    std::optional<QPointF> position() const;
 
 private:
     void fillMenu();
