@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppState.h"
 #include "app/ControlServer.h"
+#include "app/PinFiles.h"
 #include "app/Rooms.h"
 #include "app/TerminationSignals.h"
 #include "base/ControlClient.h"
@@ -68,12 +69,14 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
     state.start();
     TrayItem tray(state, prefs);
     QObject::connect(&state, &AppState::panelRequested, &tray, &TrayItem::showMenu);
+    rooms.effects().setTrayIcon([&tray] { return tray.position(); });
 
     const TerminationSignals signals;
     QObject::connect(&signals, &TerminationSignals::received, qApp, &QCoreApplication::quit);
     server->serve({[&state] { Q_EMIT state.panelRequested(); },
         [&state](CaptureKind kind) { return state.captureAndReport(kind); },
-        [] { QCoreApplication::quit(); }});
+        [] { QCoreApplication::quit(); },
+        [&rooms](const QStringList& paths) { return pinFiles(rooms.pins(), paths); }});
     const int code = QApplication::exec();
     rooms.cancelQuestions();
     finishCapture(state);

@@ -136,6 +136,10 @@ void ControlServer::follow(ControlConnection& client, const Control::Request& re
 {
     if (const auto* wanted = std::get_if<Control::Capture>(&request))
         return capture(client, *wanted);
+    if (const auto* wanted = std::get_if<Control::Pin>(&request)) {
+        answerLater(m_handlers.pin(wanted->paths), &client);
+        return;
+    }
     const bool quits = std::holds_alternative<Control::Quit>(request);
     client.answer(Control::Accepted {},
         quits ? ControlConnection::Afterwards::Stay : ControlConnection::Afterwards::HangUp);

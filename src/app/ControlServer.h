@@ -24,6 +24,7 @@ public:
         std::function<void()> panelRequested;
         std::function<Pending<CaptureReport>(CaptureKind)> capture;
         std::function<void()> quit; ///< Returns before the program ends.
+        std::function<Pending<CaptureReport>(QStringList)> pin {};
     };
 
     /// Takes the place of the resident program; fails with Error::Kind::Exists if another process

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/Control.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -75,7 +76,24 @@ struct RequestWriter {
         return {{u"command"_s, u"capture"_s}, {u"kind"_s, infoOf(capture.kind).key},
             {u"wait"_s, capture.wait}};
     }
+    QJsonObject operator()(const Control::Pin& pin) const
+    {
+        return {{u"command"_s, u"pin"_s}, {u"paths"_s, QJsonArray::fromStringList(pin.paths)}};
+    }
 };
+
+Result<Control::Request> pinFrom(const QJsonArray& items)
+{
+    Control::Pin pin;
+    for (const auto& item : items) {
+        if (!item.isString())
+            return Error::failed(u"A path is a text."_s);
+        pin.paths << item.toString();
+    }
+    if (pin.paths.isEmpty())
+        return Error::failed(u"There is nothing to pin."_s);
+    return Control::Request(pin);
+}
 
 struct AnswerWriter {
     QJsonObject operator()(Control::Accepted) const { return {{u"outcome"_s, accepted}}; }
@@ -108,6 +126,8 @@ Result<Control::Request> Control::requestFrom(const QByteArray& line)
         return Request(ShowPanel {});
     if (command == u"quit"_s)
         return Request(Quit {});
+    if (command == u"pin"_s)
+        return pinFrom(object->value(u"paths").toArray());
     if (command != u"capture"_s)
         return Error::failed(u"There is no command %1."_s.arg(quoted(command)));
     const auto kind = object->value(u"kind");

@@ -7,6 +7,7 @@
 #include "base/Folders.h"
 
 #include <QJsonObject>
+#include <QStringList>
 
 #include <variant>
 
@@ -21,7 +22,11 @@ struct Capture {
     bool wait = false; ///< The answer comes when the capture has ended.
 };
 struct Quit { };
-using Request = std::variant<ShowPanel, Capture, Quit>;
+/// Opens image files as pins; the answer comes when they are open.
+struct Pin {
+    QStringList paths; ///< Absolute.
+};
+using Request = std::variant<ShowPanel, Capture, Quit, Pin>;
 
 /// What was asked for has begun.
 struct Accepted { };

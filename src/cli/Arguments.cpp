@@ -122,6 +122,17 @@ Result<Request> parseCapture(const QStringList& words)
         kinds.join(u", "_s), word.isEmpty() ? QString() : u", not '%1'"_s.arg(word)));
 }
 
+Result<Request> parsePin(const QStringList& words)
+{
+    QCommandLineParser parser;
+    if (const auto wrong = parse(parser, words, {}, words.size()))
+        return *wrong;
+    const auto files = parser.positionalArguments();
+    if (files.isEmpty() || files.contains(QString()))
+        return Error::failed(u"'pin' takes one or more image files."_s);
+    return Request(PinRequest {files});
+}
+
 Result<Request> parseQuit(const QStringList& words)
 {
     QCommandLineParser parser;
@@ -157,6 +168,8 @@ Result<Request> parseArguments(const QStringList& arguments)
         return parseList(rest);
     if (command == u"capture"_s)
         return parseCapture(rest);
+    if (command == u"pin"_s)
+        return parsePin(rest);
     if (command == u"quit"_s)
         return parseQuit(rest);
     if (command.isEmpty() || command.startsWith(u'-'))
@@ -182,6 +195,7 @@ QString helpText()
 usage:
   pixmallow [--replace] [--background]
   pixmallow capture KIND [--wait] [--json]
+  pixmallow pin FILE...
   pixmallow quit
   pixmallow shot [--output FILE|-] [--screen N | --window ID | --area X,Y,WxH]
                  [--cursor] [--shadow] [--json]
@@ -198,6 +212,9 @@ capture  Begins a capture as its shortcut would, and starts Pixmallow if it does
   --wait         return when the capture has ended, and print the path of the
                  file, or the text
   --json         print how it ended and what there is to know about it
+
+pin    Shows image files above all windows, and starts Pixmallow if it does not
+       run. The wheel zooms, with Ctrl it fades, Escape closes.
 
 quit   Ends Pixmallow, if it runs.
 

@@ -46,12 +46,16 @@ struct LaunchRequest {
     QStringList options;
 };
 
+struct PinRequest {
+    QStringList files;
+};
+
 struct QuitRequest { };
 struct HelpRequest { };
 struct VersionRequest { };
 
-using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, LaunchRequest, QuitRequest,
-    HelpRequest, VersionRequest>;
+using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, LaunchRequest, PinRequest,
+    QuitRequest, HelpRequest, VersionRequest>;
 
 /// What the words behind the program's name ask for, or one line that says what is wrong with them.
 Result<Request> parseArguments(const QStringList& arguments);

@@ -17,5 +17,8 @@ Result<int> runCapture(const CaptureRequest& request);
 /// Becomes the resident program. Returns only if that fails.
 Error runLaunch(const LaunchRequest& request);
 
+/// Has the resident program show image files above all windows, starting it if none runs.
+Result<void> runPin(const PinRequest& request);
+
 /// Ends the resident program; done as well if none runs.
 Result<void> runQuit();

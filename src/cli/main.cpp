@@ -36,6 +36,11 @@ Result<int> run(const LaunchRequest& request)
     return runLaunch(request);
 }
 
+Result<int> run(const PinRequest& request)
+{
+    return codeOf(runPin(request));
+}
+
 Result<int> run(QuitRequest)
 {
     return codeOf(runQuit());

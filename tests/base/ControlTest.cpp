@@ -30,6 +30,10 @@ TEST(ControlTest, readsTheRequestsItWrites)
         }
     EXPECT_TRUE(std::holds_alternative<ShowPanel>(*requestFrom(bare(toLine(ShowPanel {})))));
     EXPECT_TRUE(std::holds_alternative<Quit>(*requestFrom(bare(toLine(Request(Quit {}))))));
+    const QStringList paths {u"/a b/ü.png"_s, u"/c\n.png"_s};
+    const auto pin = requestFrom(bare(toLine(Request(Pin {paths}))));
+    ASSERT_TRUE(pin);
+    EXPECT_EQ(std::get<Pin>(*pin).paths, paths);
     const auto newer = requestFrom(R"({"command":"capture","kind":"text","mood":[1,{}]})");
     ASSERT_TRUE(newer);
     EXPECT_FALSE(std::get<Capture>(*newer).wait);
@@ -39,7 +43,8 @@ TEST(ControlTest, refusesRequestsThatItDoesNotUnderstand)
 {
     for (const QByteArray& line : {""_ba, "quit"_ba, "[]"_ba, "\"quit\""_ba, "{"_ba, "{}"_ba,
              R"({"command":"dance"})"_ba, R"({"command":7})"_ba, R"({"command":"capture"})"_ba,
-             R"({"command":"capture","kind":"moon"})"_ba,
+             R"({"command":"capture","kind":"moon"})"_ba, R"({"command":"pin"})"_ba,
+             R"({"command":"pin","paths":[]})"_ba, R"({"command":"pin","paths":["/a",1]})"_ba,
              R"({"command":"capture","kind":"region","wait":1})"_ba,
              "{\"command\":\"panel\xff\"}"_ba, QByteArray(100'000, '['),
              R"({"command":")" + QByteArray(60'000, 'x') + R"("})"}) {

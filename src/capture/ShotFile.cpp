@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "capture/ShotFile.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Our own files tell 72 dots per inch for each device pixel of a point. Pictures from elsewhere
+/// tell what printers or cameras think, which is no scale.
+double scaleOf(const QImage& image)
+{
+    constexpr double inchesPerMetre = 0.0254;
+    constexpr double largest = 4;
+    const double scale = image.dotsPerMeterX() * inchesPerMetre / 72;
+    const double nearest = std::round(scale * 4) / 4;
+    const bool ours = std::abs(scale - nearest) < 0.01 && nearest >= 1 && nearest <= largest;
+    return ours ? nearest : 1;
+}
+
+} // namespace
+
+Result<Shot> readShot(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return Error::failed(u"There is no file “%1”."_s.arg(path));
+    if (!file.isFile())
+        return Error::failed(u"“%1” is not a file."_s.arg(path));
+    if (!file.isReadable())
+        return Error::failed(u"“%1” may not be read."_s.arg(path));
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QImage image = reader.read();
+    if (image.isNull())
+        return Error::failed(
+            u"“%1” is no picture that can be read: %2."_s.arg(path, reader.errorString()));
+    return Shot {image, scaleOf(image), file.fileName(), std::nullopt};
+}
