@@ -35,6 +35,14 @@ QImage samePixels(const QImage& image)
         image.format(), release, keeper);
 }
 
+QImage inOurFormat(const QImage& image)
+{
+    if (isOfOurs(image.format()))
+        return image;
+    return image.convertToFormat(
+        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+}
+
 Result<QImage> readImage(RowSource& source)
 {
     const auto bitmap = Bitmap::read(source);
@@ -44,11 +52,8 @@ Result<QImage> readImage(RowSource& source)
 }
 
 ImageRows::ImageRows(const QImage& image)
-    : m_image(image)
+    : m_image(inOurFormat(image))
 {
-    if (!isOfOurs(image.format()))
-        m_image = image.convertToFormat(
-            image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }
 
 PixelFormat ImageRows::format() const

@@ -13,6 +13,9 @@ QImage toImage(const Bitmap& bitmap);
 /// a shared QImage copies it whole. Other formats than the two of PixelFormat do get copied then.
 QImage samePixels(const QImage& image);
 
+/// A picture in one of the two formats of PixelFormat: itself, or converted.
+QImage inOurFormat(const QImage& image);
+
 /// All of a picture.
 Result<QImage> readImage(RowSource& source);
 

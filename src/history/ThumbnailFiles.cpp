@@ -17,7 +17,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -48,16 +47,6 @@ void mark(const QString& path, std::int64_t stamp)
     const timespec time {stamp / 1'000'000'000, stamp % 1'000'000'000};
     const std::array<timespec, 2> usedAndWritten {time, time};
     utimensat(AT_FDCWD, QFile::encodeName(path).constData(), usedAndWritten.data(), 0);
-}
-
-bool isOpaque(const QImage& image)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        if (std::any_of(row, row + image.width(), [](QRgb pixel) { return qAlpha(pixel) != 255; }))
-            return false;
-    }
-    return true;
 }
 
 QByteArray jpegOf(const QImage& image)
@@ -135,16 +124,6 @@ void ThumbnailFiles::removeAllBut(const QList<HistoryItem>& items) const
 QString ThumbnailFiles::pathOf(const QString& id, const QString& suffix) const
 {
     return m_folder + u'/' + id + suffix;
-}
-
-QImage reduced(const QImage& image, QSize most)
-{
-    QSize size = image.size();
-    if (size.width() > most.width() || size.height() > most.height())
-        size = size.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1});
-    const QImage small = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                             .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    return isOpaque(small) ? small.convertToFormat(QImage::Format_RGB32) : small;
 }
 
 QImage decoded(const QString& path)

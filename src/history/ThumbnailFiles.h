@@ -39,8 +39,5 @@ private:
     const QString m_folder;
 };
 
-/// Within the size, never enlarged, of the same proportions; RGB32 where it is opaque.
-QImage reduced(const QImage& image, QSize most);
-
 /// Null where the file is no picture that can be read.
 QImage decoded(const QString& path);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "history/Thumbnails.h"
 
+#include "capture/Reduced.h"
+
 #include <algorithm>
 #include <limits>
 
