@@ -6,9 +6,7 @@
 
 #include <memory>
 
-/// A picture in memory, its pixels shared between copies. Fresh memory comes in huge pages where
-/// the system has them: at 3840 × 2160 the page faults of ordinary ones cost four times the copy
-/// itself.
+/// A picture in memory, its pixels shared between copies.
 class Bitmap final {
 public:
     Bitmap() = default;
