@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/Rows.h"
+
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -12,16 +14,13 @@ class PngPalette final {
 public:
     static constexpr std::size_t most = 256;
 
-    /// Bits of `ignored` count as set in every pixel, here and below.
-    explicit PngPalette(std::uint32_t ignored);
+    explicit PngPalette(PixelFormat format);
 
-    /// Gives up at the colour that is one too many.
-    void add(const std::uint32_t* row, int width);
+    /// The place of each pixel, new colours being added: width bytes, which mean nothing once there
+    /// was a colour too many.
+    void indices(const std::uint32_t* row, std::uint8_t* out, int width);
     bool overflowed() const { return m_overflowed; }
     std::span<const std::uint32_t> colours() const { return m_colours; }
-
-    /// The place of each pixel, all of which were added: width bytes.
-    void indices(const std::uint32_t* row, std::uint8_t* out, int width) const;
 
 private:
     struct Slot {
@@ -32,11 +31,10 @@ private:
     static constexpr std::size_t slotCount = 32 * most;
 
     static std::size_t home(std::uint32_t colour);
-    std::size_t find(std::uint32_t colour) const;
-    void insert(std::uint32_t colour);
+    std::uint8_t placeOf(std::uint32_t colour);
 
     std::vector<Slot> m_slots;
     std::vector<std::uint32_t> m_colours;
-    std::uint32_t m_ignored;
+    std::uint32_t m_ignored; // Bits that count as set in every pixel.
     bool m_overflowed = false;
 };

@@ -7,8 +7,7 @@
 
 #include <algorithm>
 
-PngScanlines::PngScanlines(
-    const PixelRows& rows, PngColour colour, const PngPalette& palette, int width)
+PngScanlines::PngScanlines(const PixelRows& rows, PngColour colour, PngPalette& palette, int width)
     : m_rows(rows)
     , m_colour(colour)
     , m_palette(palette)

@@ -17,8 +17,8 @@ enum class PngFilter : std::uint8_t { None = 0, Up = 2 };
 /// Makes a PNG scan line, filter byte included, of each row of a picture.
 class PngScanlines final {
 public:
-    /// The palette holds every pixel of the picture; it is asked only with PngColour::Palette.
-    PngScanlines(const PixelRows& rows, PngColour colour, const PngPalette& palette, int width);
+    /// The palette, which is asked only with PngColour::Palette, takes up what colours come.
+    PngScanlines(const PixelRows& rows, PngColour colour, PngPalette& palette, int width);
 
     std::size_t length() const; ///< Bytes of one line.
 
@@ -30,7 +30,7 @@ public:
 private:
     const PixelRows& m_rows;
     PngColour m_colour;
-    const PngPalette& m_palette;
+    PngPalette& m_palette;
     int m_width;
     // Rgba only: this row and the one above, no longer premultiplied.
     std::vector<std::uint32_t> m_straight;

@@ -2,10 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "base/PngSurvey.h"
 
-#include "base/RowWalk.h"
-
 #include <algorithm>
-#include <cstring>
+
+namespace {
+
+Result<bool> stops(RowSource& source, const std::vector<RowRange>& ranges, const RowVisitor& visit)
+{
+    for (const auto range : ranges) {
+        const auto walk = walkRows(source, range, visit);
+        if (!walk)
+            return walk.error();
+        if (*walk == Walk::Stop)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 std::vector<RowRange> sampleOf(int height)
 {
@@ -22,55 +35,26 @@ std::vector<RowRange> sampleOf(int height)
     return sample;
 }
 
-PngSurvey::PngSurvey(PixelFormat format)
-    : m_palette(format == PixelFormat::Rgb32 ? 0xff000000 : 0)
-    , m_opaqueByFormat(format == PixelFormat::Rgb32)
-{
-}
-
-Result<PngSurvey> PngSurvey::make(RowSource& source, const PixelRows& pixelRows)
-{
-    PngSurvey survey(source.format());
-    const int height = source.size().height();
-    // Most pictures show soon that they are neither opaque nor of few colours, and cost next to
-    // nothing here; only those that might be are read as a whole.
-    for (const auto range : sampleOf(height)) {
-        if (auto done = survey.look(source, pixelRows, range); !done)
-            return done.error();
-    }
-    if (auto done = survey.look(source, pixelRows, {0, height}); !done)
-        return done.error();
-    return survey;
-}
-
-PngColour PngSurvey::colour() const
-{
-    if (!m_palette.overflowed())
-        return PngColour::Palette;
-    return m_transparencySeen ? PngColour::Rgba : PngColour::Rgb;
-}
-
-bool PngSurvey::certain() const
-{
-    return m_palette.overflowed() && (m_opaqueByFormat || m_transparencySeen);
-}
-
-Result<void> PngSurvey::look(RowSource& source, const PixelRows& pixelRows, RowRange range)
+Result<bool> hasManyColours(RowSource& source, PngPalette& palette)
 {
     const int width = source.size().width();
-    const std::size_t bytes = std::size_t(width) * sizeof(std::uint32_t);
-    RowWalk walk(source, range.first, range.end);
-    while (!certain()) {
-        const auto row = walk.next();
-        if (!row)
-            return row.error();
-        if (!*row)
-            break;
-        if (walk.above() && std::memcmp(*row, walk.above(), bytes) == 0)
-            continue;
-        m_palette.add(*row, width);
-        if (!m_opaqueByFormat && !m_transparencySeen)
-            m_transparencySeen = !pixelRows.opaque(*row, width);
-    }
-    return {};
+    std::vector<std::uint8_t> indices(static_cast<std::size_t>(width));
+    return stops(source, sampleOf(source.size().height()), [&](const std::uint32_t* row, auto) {
+        palette.indices(row, indices.data(), width);
+        return palette.overflowed() ? Walk::Stop : Walk::On;
+    });
+}
+
+Result<PngColour> trueColour(RowSource& source, const PixelRows& pixelRows)
+{
+    if (source.format() == PixelFormat::Rgb32)
+        return PngColour::Rgb;
+    auto ranges = sampleOf(source.size().height());
+    ranges.push_back({0, source.size().height()});
+    const auto transparent = stops(source, ranges, [&](const std::uint32_t* row, auto) {
+        return pixelRows.opaque(row, source.size().width()) ? Walk::On : Walk::Stop;
+    });
+    if (!transparent)
+        return transparent.error();
+    return *transparent ? PngColour::Rgba : PngColour::Rgb;
 }

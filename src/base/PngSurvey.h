@@ -4,36 +4,17 @@
 
 #include "base/PngPalette.h"
 #include "base/PngScanlines.h"
-#include "base/Rows.h"
+#include "base/RowWalk.h"
 
 #include <vector>
-
-/// Some rows of a picture: from first up to, but without, end.
-struct RowRange {
-    int first = 0;
-    int end = 0;
-};
 
 /// Slices spread over the height, together a thirty-second of it or a little more; all of a low
 /// picture.
 std::vector<RowRange> sampleOf(int height);
 
-/// What a picture is made of, found in as few of its rows as tell it for sure.
-class PngSurvey final {
-public:
-    static Result<PngSurvey> make(RowSource& source, const PixelRows& pixelRows);
+/// Whether a sample of the picture has too many colours for a palette, as most that have soon show.
+/// Those that it sees are put into the palette.
+Result<bool> hasManyColours(RowSource& source, PngPalette& palette);
 
-    PngColour colour() const;
-    const PngPalette& palette() const { return m_palette; }
-
-private:
-    explicit PngSurvey(PixelFormat format);
-
-    /// Whether nothing that may follow can change the colour type.
-    bool certain() const;
-    Result<void> look(RowSource& source, const PixelRows& pixelRows, RowRange range);
-
-    PngPalette m_palette;
-    bool m_opaqueByFormat;
-    bool m_transparencySeen = false;
-};
+/// RGB when every pixel is opaque, else RGBA.
+Result<PngColour> trueColour(RowSource& source, const PixelRows& pixelRows);

@@ -2,30 +2,27 @@
 // SPDX-License-Identifier: MIT
 #include "base/RowWalk.h"
 
-RowWalk::RowWalk(RowSource& source, int first, int end)
-    : m_source(source)
-    , m_y(first)
-    , m_end(end)
-{
-}
+#include <vector>
 
-Result<const std::uint32_t*> RowWalk::next()
+Result<Walk> walkRows(RowSource& source, RowRange range, const RowVisitor& visit)
 {
-    if (m_index == m_rows.count) {
-        if (m_y == m_end)
-            return nullptr;
-        if (m_row) { // Fetching takes the old rows away.
-            m_kept.assign(m_row, m_row + m_rows.width);
-            m_row = m_kept.data();
+    const std::uint32_t* above = nullptr;
+    std::vector<std::uint32_t> kept;
+    for (int y = range.first; y < range.end;) {
+        if (above) { // Fetching takes the old rows away.
+            kept.assign(above, above + source.size().width());
+            above = kept.data();
         }
-        const auto rows = m_source.rows(m_y, m_end - m_y);
+        const auto rows = source.rows(y, range.end - y);
         if (!rows)
             return rows.error();
-        m_rows = *rows;
-        m_y += m_rows.count;
-        m_index = 0;
+        for (int i = 0; i < rows->count; ++i) {
+            const auto walk = visit(rows->row(i), above);
+            if (!walk || *walk == Walk::Stop)
+                return walk;
+            above = rows->row(i);
+        }
+        y += rows->count;
     }
-    m_above = m_row;
-    m_row = m_rows.row(m_index++);
-    return m_row;
+    return Walk::On;
 }

@@ -4,27 +4,19 @@
 
 #include "base/Rows.h"
 
-#include <vector>
+#include <functional>
 
-/// Goes down some rows of a picture, one by one, with the row above each still at hand.
-class RowWalk final {
-public:
-    /// The rows from first up to, but without, end.
-    RowWalk(RowSource& source, int first, int end);
-
-    /// The next row, valid until the next call; null after the last.
-    Result<const std::uint32_t*> next();
-
-    /// The row before the one that next() gave last; null when that was the first.
-    const std::uint32_t* above() const { return m_above; }
-
-private:
-    RowSource& m_source;
-    int m_y;
-    int m_end;
-    Rows m_rows;
-    int m_index = 0; // Of the next row in m_rows.
-    const std::uint32_t* m_row = nullptr;
-    const std::uint32_t* m_above = nullptr;
-    std::vector<std::uint32_t> m_kept;
+/// Some rows of a picture: from first up to, but without, end.
+struct RowRange {
+    int first = 0;
+    int end = 0;
 };
+
+enum class Walk { On, Stop };
+
+/// Sees a row and the one above it, null for the first of a range; both are valid during the call.
+using RowVisitor
+    = std::function<Result<Walk>(const std::uint32_t* row, const std::uint32_t* above)>;
+
+/// Goes down some rows of a picture until the visitor stops, which is passed on, or either fails.
+Result<Walk> walkRows(RowSource& source, RowRange range, const RowVisitor& visit);

@@ -255,6 +255,13 @@ TEST(PngWriter, takesAPaletteForUpTo256ColoursWhereverTheLastOneStands)
         EXPECT_EQ(file[25], colours <= 256 ? 3 : 2) << colours;
         expectSamePicture(picture, file);
     }
+
+    // Too large, compressed, to be kept until the palette is known.
+    std::mt19937 random(1);
+    const Picture noise({2200, 2200}, PixelFormat::Rgb32, [&](int, int) { return random() % 256; });
+    const auto file = write(noise, PngEngine::fastest()).file;
+    EXPECT_EQ(file[25], 3);
+    expectSamePicture(noise, file);
 }
 
 TEST(PngWriter, choosesTheFilterThatSuitsThePicture)
@@ -275,11 +282,12 @@ TEST(PngWriter, choosesTheFilterThatSuitsThePicture)
     }
 }
 
-TEST(PngWriter, readsLittleMoreThanThePictureOnceWhenItsColoursShowEarly)
+TEST(PngWriter, readsLittleMoreThanThePictureOnceWhenItsColoursAreFewOrShowEarly)
 {
-    for (const auto pixelAt : {busy, glassBusy}) {
-        const auto format = pixelAt == busy ? PixelFormat::Rgb32 : PixelFormat::Argb32Premultiplied;
-        const Picture picture({300, 2160}, format, pixelAt);
+    for (const auto pixelAt : {busy, glassBusy, few, fewGlass}) {
+        const bool opaque = pixelAt == busy || pixelAt == few;
+        const Picture picture(
+            {300, 2160}, opaque ? PixelFormat::Rgb32 : PixelFormat::Argb32Premultiplied, pixelAt);
         EXPECT_LT(write(picture, PngEngine::fastest(), 64).rowsRead, 2160 * 5 / 4);
     }
 }
