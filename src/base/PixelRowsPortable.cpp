@@ -44,24 +44,25 @@ void writeRgba(Value value, std::uint8_t* out, int width)
     }
 }
 
-constexpr PixelRows table {[](const std::uint32_t* row, std::uint8_t* out, int width) {
-                               writeRgb(Plain {row}, out, width);
-                           },
-    [](const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width) {
-        writeRgb(Difference {row, above}, out, width);
-    },
-    [](const std::uint32_t* row, std::uint8_t* out, int width) {
-        writeRgba(Plain {row}, out, width);
-    },
-    [](const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width) {
-        writeRgba(Difference {row, above}, out, width);
-    },
-    [](const std::uint32_t* row, int width) {
-        std::uint32_t common = ~0u;
-        for (int x = 0; x < width; ++x)
-            common &= row[x];
-        return common >> 24 == 0xff;
-    }};
+void rgb(const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width)
+{
+    above ? writeRgb(Difference {row, above}, out, width) : writeRgb(Plain {row}, out, width);
+}
+
+void rgba(const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width)
+{
+    above ? writeRgba(Difference {row, above}, out, width) : writeRgba(Plain {row}, out, width);
+}
+
+bool opaque(const std::uint32_t* row, int width)
+{
+    std::uint32_t common = ~0u;
+    for (int x = 0; x < width; ++x)
+        common &= row[x];
+    return common >> 24 == 0xff;
+}
+
+constexpr PixelRows table {rgb, rgba, opaque};
 
 } // namespace
 

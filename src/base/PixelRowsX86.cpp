@@ -21,37 +21,24 @@ void store(std::uint8_t* out, __m128i bytes)
 
 struct Plain {
     __m128i operator()(int x) const { return load(row + x); }
-    void fetch(int x) const { _mm_prefetch(row + x, _MM_HINT_T0); }
-    Plain from(int x) const { return {row + x}; }
-    void rgb(std::uint8_t* out, int width) const { portablePixelRows().rgb(row, out, width); }
-    void rgba(std::uint8_t* out, int width) const { portablePixelRows().rgba(row, out, width); }
     const std::uint32_t* row;
 };
 
 // The difference of two pixels has the same bytes as the difference of their reordered bytes.
 struct Difference {
     __m128i operator()(int x) const { return _mm_sub_epi8(load(row + x), load(above + x)); }
-    void fetch(int x) const { _mm_prefetch(row + x, _MM_HINT_T0); }
-    Difference from(int x) const { return {row + x, above + x}; }
-    void rgb(std::uint8_t* out, int width) const
-    {
-        portablePixelRows().rgbUp(row, above, out, width);
-    }
-    void rgba(std::uint8_t* out, int width) const
-    {
-        portablePixelRows().rgbaUp(row, above, out, width);
-    }
     const std::uint32_t* row;
     const std::uint32_t* above;
 };
 
+/// How many pixels it did; it leaves what is no multiple of its stride.
 template <typename Value>
-void writeRgb(Value value, std::uint8_t* out, int width)
+int writeRgb(Value value, std::uint8_t* out, int width)
 {
     const __m128i order = _mm_setr_epi8(2, 1, 0, 6, 5, 4, 10, 9, 8, 14, 13, 12, -1, -1, -1, -1);
     int x = 0;
     for (; x + 16 <= width; x += 16, out += 48) { // Four times 12 bytes make three times 16.
-        value.fetch(x + pixelsAhead);
+        _mm_prefetch(value.row + x + pixelsAhead, _MM_HINT_T0);
         const __m128i a = _mm_shuffle_epi8(value(x), order);
         const __m128i b = _mm_shuffle_epi8(value(x + 4), order);
         const __m128i c = _mm_shuffle_epi8(value(x + 8), order);
@@ -60,17 +47,33 @@ void writeRgb(Value value, std::uint8_t* out, int width)
         store(out + 16, _mm_or_si128(_mm_srli_si128(b, 4), _mm_slli_si128(c, 8)));
         store(out + 32, _mm_or_si128(_mm_srli_si128(c, 8), _mm_slli_si128(d, 4)));
     }
-    value.from(x).rgb(out, width - x);
+    return x;
 }
 
 template <typename Value>
-void writeRgba(Value value, std::uint8_t* out, int width)
+int writeRgba(Value value, std::uint8_t* out, int width)
 {
     const __m128i order = _mm_setr_epi8(2, 1, 0, 3, 6, 5, 4, 7, 10, 9, 8, 11, 14, 13, 12, 15);
     int x = 0;
     for (; x + 4 <= width; x += 4, out += 16)
         store(out, _mm_shuffle_epi8(value(x), order));
-    value.from(x).rgba(out, width - x);
+    return x;
+}
+
+void rgb(const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width)
+{
+    const int done
+        = above ? writeRgb(Difference {row, above}, out, width) : writeRgb(Plain {row}, out, width);
+    portablePixelRows().rgb(
+        row + done, above ? above + done : nullptr, out + 3 * done, width - done);
+}
+
+void rgba(const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width)
+{
+    const int done = above ? writeRgba(Difference {row, above}, out, width)
+                           : writeRgba(Plain {row}, out, width);
+    portablePixelRows().rgba(
+        row + done, above ? above + done : nullptr, out + 4 * done, width - done);
 }
 
 bool opaque(const std::uint32_t* row, int width)
@@ -84,19 +87,7 @@ bool opaque(const std::uint32_t* row, int width)
         && portablePixelRows().opaque(row + x, width - x);
 }
 
-constexpr PixelRows table {[](const std::uint32_t* row, std::uint8_t* out, int width) {
-                               writeRgb(Plain {row}, out, width);
-                           },
-    [](const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width) {
-        writeRgb(Difference {row, above}, out, width);
-    },
-    [](const std::uint32_t* row, std::uint8_t* out, int width) {
-        writeRgba(Plain {row}, out, width);
-    },
-    [](const std::uint32_t* row, const std::uint32_t* above, std::uint8_t* out, int width) {
-        writeRgba(Difference {row, above}, out, width);
-    },
-    opaque};
+constexpr PixelRows table {rgb, rgba, opaque};
 
 } // namespace
 

@@ -30,20 +30,20 @@ std::size_t PngScanlines::length() const
 void PngScanlines::encode(
     const std::uint32_t* row, const std::uint32_t* above, PngFilter filter, std::uint8_t* out)
 {
-    const bool up = filter == PngFilter::Up && above;
-    *out++ = std::uint8_t(up ? PngFilter::Up : PngFilter::None);
+    if (filter == PngFilter::None)
+        above = nullptr;
+    *out++ = std::uint8_t(above ? PngFilter::Up : PngFilter::None);
     switch (m_colour) {
     case PngColour::Palette:
         m_palette.indices(row, out, m_width);
         break;
     case PngColour::Rgb:
-        up ? m_rows.rgbUp(row, above, out, m_width) : m_rows.rgb(row, out, m_width);
+        m_rows.rgb(row, above, out, m_width);
         break;
     case PngColour::Rgba:
         m_straight.swap(m_straightAbove);
         std::transform(row, row + m_width, m_straight.begin(), unpremultiplied);
-        up ? m_rows.rgbaUp(m_straight.data(), m_straightAbove.data(), out, m_width)
-           : m_rows.rgba(m_straight.data(), out, m_width);
+        m_rows.rgba(m_straight.data(), above ? m_straightAbove.data() : nullptr, out, m_width);
         break;
     }
 }
