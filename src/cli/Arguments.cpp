@@ -6,26 +6,12 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <functional>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Parses the options of one command. The messages of the parser are whole sentences already.
-std::optional<Error> parse(QCommandLineParser& parser, const QStringList& words,
-    const QList<QCommandLineOption>& options, qsizetype positionals)
-{
-    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOptions(options);
-    if (!parser.parse(QStringList {u"pixmallow"_s} + words))
-        return Error::failed(parser.errorText());
-    const auto extra = parser.positionalArguments();
-    if (extra.size() > positionals)
-        return Error::failed(u"Unexpected argument '%1'."_s.arg(extra[positionals]));
-    for (const auto& option : options)
-        if (parser.values(option).size() > 1)
-            return Error::failed(u"--%1 is given twice."_s.arg(option.names().first()));
-    return std::nullopt;
-}
 
 std::optional<std::uint32_t> windowNumber(const QString& text)
 {
@@ -65,15 +51,8 @@ Result<ShotTarget> shotTarget(const QCommandLineParser& parser)
     return ShotTarget(WholeDesktop {});
 }
 
-Result<Request> parseShot(const QStringList& words)
+Result<Request> shot(const QCommandLineParser& parser)
 {
-    QCommandLineParser parser;
-    const QList<QCommandLineOption> options {{u"output"_s, {}, u"FILE"_s},
-        {u"screen"_s, {}, u"N"_s}, {u"window"_s, {}, u"ID"_s}, {u"area"_s, {}, u"X,Y,WxH"_s},
-        QCommandLineOption(u"cursor"_s), QCommandLineOption(u"shadow"_s),
-        QCommandLineOption(u"json"_s)};
-    if (const auto wrong = parse(parser, words, options, 0))
-        return *wrong;
     const auto target = shotTarget(parser);
     if (!target)
         return target.error();
@@ -92,11 +71,8 @@ Result<Request> parseShot(const QStringList& words)
     return Request(std::move(request));
 }
 
-Result<Request> parseList(const QStringList& words)
+Result<Request> list(const QCommandLineParser& parser)
 {
-    QCommandLineParser parser;
-    if (const auto wrong = parse(parser, words, {QCommandLineOption(u"json"_s)}, 1))
-        return *wrong;
     const QString what = parser.positionalArguments().value(0);
     if (what != u"screens"_s && what != u"windows"_s)
         return Error::failed(u"'list' takes 'screens' or 'windows'."_s);
@@ -105,13 +81,8 @@ Result<Request> parseList(const QStringList& words)
             parser.isSet(u"json"_s)});
 }
 
-Result<Request> parseCapture(const QStringList& words)
+Result<Request> capture(const QCommandLineParser& parser)
 {
-    QCommandLineParser parser;
-    const QList<QCommandLineOption> options {
-        QCommandLineOption(u"wait"_s), QCommandLineOption(u"json"_s)};
-    if (const auto wrong = parse(parser, words, options, 1))
-        return *wrong;
     const QString word = parser.positionalArguments().value(0);
     if (const auto kind = captureKind(word))
         return Request(CaptureRequest {*kind, parser.isSet(u"wait"_s), parser.isSet(u"json"_s)});
@@ -122,59 +93,73 @@ Result<Request> parseCapture(const QStringList& words)
         kinds.join(u", "_s), word.isEmpty() ? QString() : u", not '%1'"_s.arg(word)));
 }
 
-Result<Request> parsePin(const QStringList& words)
+Result<Request> pin(const QCommandLineParser& parser)
 {
-    QCommandLineParser parser;
-    if (const auto wrong = parse(parser, words, {}, words.size()))
-        return *wrong;
     const auto files = parser.positionalArguments();
     if (files.isEmpty() || files.contains(QString()))
         return Error::failed(u"'pin' takes one or more image files."_s);
     return Request(PinRequest {files});
 }
 
-Result<Request> parseQuit(const QStringList& words)
+constexpr qsizetype anyNumber = std::numeric_limits<qsizetype>::max();
+
+struct Command {
+    QString name; ///< Empty for the one without a name.
+    QList<QCommandLineOption> options;
+    qsizetype words; ///< How many may follow besides.
+    std::function<Result<Request>(const QCommandLineParser&)> read;
+};
+
+QList<Command> commands(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    if (const auto wrong = parse(parser, words, {}, 0))
-        return *wrong;
-    return Request(QuitRequest {});
+    const auto flag = [](const QString& name) { return QCommandLineOption(name); };
+    return {
+        {u"shot"_s,
+            {{u"output"_s, {}, u"FILE"_s}, {u"screen"_s, {}, u"N"_s}, {u"window"_s, {}, u"ID"_s},
+                {u"area"_s, {}, u"X,Y,WxH"_s}, flag(u"cursor"_s), flag(u"shadow"_s),
+                flag(u"json"_s)},
+            0, shot},
+        {u"list"_s, {flag(u"json"_s)}, 1, list},
+        {u"capture"_s, {flag(u"wait"_s), flag(u"json"_s)}, 1, capture},
+        {u"pin"_s, {}, anyNumber, pin},
+        {u"quit"_s, {}, 0, [](auto&) { return Request(QuitRequest {}); }},
+        {{}, {flag(u"replace"_s), flag(u"background"_s)}, 0,
+            [&](auto&) { return Request(LaunchRequest {arguments}); }},
+    };
 }
 
-Result<Request> parseLaunch(const QStringList& words)
+Result<Request> parse(const Command& command, const QStringList& words)
 {
     QCommandLineParser parser;
-    const QList<QCommandLineOption> options {
-        QCommandLineOption(u"replace"_s), QCommandLineOption(u"background"_s)};
-    if (const auto wrong = parse(parser, words, options, 0))
-        return *wrong;
-    return Request(LaunchRequest {words});
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addOptions(command.options);
+    if (!parser.parse(QStringList {u"pixmallow"_s} + words)) // Its messages are whole sentences.
+        return Error::failed(parser.errorText());
+    const auto given = parser.positionalArguments();
+    if (given.size() > command.words)
+        return Error::failed(u"Unexpected argument '%1'."_s.arg(given[command.words]));
+    for (const auto& option : command.options)
+        if (parser.values(option).size() > 1)
+            return Error::failed(u"--%1 is given twice."_s.arg(option.names().first()));
+    return command.read(parser);
 }
 
 } // namespace
 
 Result<Request> parseArguments(const QStringList& arguments)
 {
-    const QString command = arguments.value(0);
+    const QString first = arguments.value(0);
     const QStringList rest = arguments.mid(1);
-    if (rest.contains(u"--help"_s) || command == u"--help"_s || command == u"-h"_s
-        || command == u"help"_s)
+    if (rest.contains(u"--help"_s) || first == u"--help"_s || first == u"-h"_s
+        || first == u"help"_s)
         return Request(HelpRequest {});
-    if (command == u"--version"_s)
+    if (first == u"--version"_s)
         return Request(VersionRequest {});
-    if (command == u"shot"_s)
-        return parseShot(rest);
-    if (command == u"list"_s)
-        return parseList(rest);
-    if (command == u"capture"_s)
-        return parseCapture(rest);
-    if (command == u"pin"_s)
-        return parsePin(rest);
-    if (command == u"quit"_s)
-        return parseQuit(rest);
-    if (command.isEmpty() || command.startsWith(u'-'))
-        return parseLaunch(arguments);
-    return Error::failed(u"Unknown command '%1'."_s.arg(command));
+    const bool isNamed = !first.isEmpty() && !first.startsWith(u'-');
+    for (const auto& command : commands(arguments))
+        if (command.name == (isNamed ? first : QString()))
+            return parse(command, isNamed ? rest : arguments);
+    return Error::failed(u"Unknown command '%1'."_s.arg(first));
 }
 
 std::optional<QRect> parseArea(const QString& text)
