@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
 #include "base/Bitmap.h"
+#include "bench/DesktopOf.h"
 #include "bench/Limit.h"
+#include "bench/Program.h"
 #include "bench/Rounds.h"
 #include "bench/ScreenContent.h"
 #include "platform/Platform.h"
-#include "tests/desktop/VirtualDesktop.h"
-
-#include <QGuiApplication>
 
 #include <cstdio>
 #include <cstring>
@@ -20,12 +19,6 @@ const QString copy = u"memcpy"_s; // Of the whole picture, into memory that is t
 const QString grab = u"grab"_s; // Of the whole desktop, into memory of its own.
 
 constexpr Limit timesCopy {2.0, 1.3};
-
-int fail(const QString& why)
-{
-    std::fprintf(stderr, "GrabBench: %s\n", qPrintable(why));
-    return 1;
-}
 
 Result<Bitmap> grabbed(ScreenCapture& capture, QSize size)
 {
@@ -58,9 +51,9 @@ int measure(ScreenCapture& capture, const QImage& picture, int roundCount)
     rounds.run(roundCount);
     const auto last = grabbed(capture, picture.size());
     if (failure || !last)
-        return fail(failure ? failure->message : last.error().message);
+        return Program::fail(failure ? failure->message : last.error().message);
     if (!isSame(*last, picture))
-        return fail(u"The pixels are not those on the screen."_s);
+        return Program::fail(u"The pixels are not those on the screen."_s);
 
     std::printf("%-7s %9s %9s %9s %9s  %s\n", "", "cpu ms", "p95 ms", "wall ms", "p95 ms",
         "x memcpy, cpu of this process");
@@ -76,20 +69,14 @@ int measure(ScreenCapture& capture, const QImage& picture, int roundCount)
 // What the resident program pays for a picture of a 3840 × 2160 desktop. usage: GrabBench [ROUNDS]
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    const int rounds = std::max(1, QGuiApplication::arguments().value(1, u"25"_s).toInt());
-    const QSize size(3840, 2160);
-    const QImage picture = drawScreen(ScreenContent::Desk, size);
-
-    const auto desktop = VirtualDesktop::start({.size = size, .windowManager = false});
+    const Program program(argc, argv);
+    const QImage picture = drawScreen(ScreenContent::Desk, {3840, 2160});
+    const auto desktop = desktopOf(picture);
     if (!desktop)
-        return fail(desktop.error().message);
-    (*desktop)->setRootPicture(picture);
+        return Program::fail(desktop.error().message);
     (*desktop)->enter();
     const auto platform = makeCapturePlatform(Residency::Resident);
     if (!platform)
-        return fail(platform.error().message);
-    std::printf("%d x %d, %d rounds\n", size.width(), size.height(), rounds);
-    return measure(*platform->capture, picture, rounds);
+        return Program::fail(platform.error().message);
+    return measure(*platform->capture, picture, Program::number(1, 25));
 }

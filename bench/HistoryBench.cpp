@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "bench/Program.h"
 #include "bench/Rounds.h"
 #include "bench/ScreenContent.h"
 #include "capture/Files.h"
@@ -8,7 +9,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <malloc.h>
@@ -153,14 +153,11 @@ void measureThumbnails(const QString& place, const QImage& image, int roundCount
 // usage: HistoryBench [ROUNDS [FOLDER]]; a folder in memory leaves the disk's flush out.
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    const auto arguments = QGuiApplication::arguments();
-    const int rounds = std::max(1, arguments.value(1, u"9"_s).toInt());
-    const QString place = arguments.value(2, u"/dev/shm"_s);
+    const Program program(argc, argv);
+    const int rounds = Program::number(1, 9);
+    const QString place = Program::words(2).value(0, u"/dev/shm"_s);
     const QImage image = drawScreen(ScreenContent::Desk, {3840, 2160});
-    std::printf(
-        "in %s, %d rounds\n%-32s %9s %9s\n", qPrintable(place), rounds, "", "cpu ms", "wall ms");
+    std::printf("in %s\n%-32s %9s %9s\n", qPrintable(place), "", "cpu ms", "wall ms");
     for (const auto& target :
         {Target {200, 1, 3}, Target {10'000, 15, 20}, Target {100'000, 350, 200}})
         measureStore(place, target, image, rounds);

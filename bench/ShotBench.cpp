@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "bench/DesktopOf.h"
 #include "bench/Limit.h"
+#include "bench/Program.h"
 #include "bench/Rounds.h"
 #include "bench/ScreenContent.h"
-#include "tests/desktop/VirtualDesktop.h"
 
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -24,12 +24,6 @@ struct Command {
 
 constexpr Limit partOfPeer {0.20, 0.12}; // Of its wall time and of its processor time.
 constexpr Limit mebibytes {50, 15};
-
-int fail(const QString& why)
-{
-    std::fprintf(stderr, "ShotBench: %s\n", qPrintable(why));
-    return 1;
-}
 
 Result<Rounds::Sample> runOnce(const VirtualDesktop& desktop, Command& command)
 {
@@ -76,10 +70,10 @@ int measure(const VirtualDesktop& desktop, const QImage& picture, int roundCount
         });
     rounds.run(roundCount);
     if (failure)
-        return fail(failure->message);
+        return Program::fail(failure->message);
     for (const auto& command : {ours, theirs})
         if (!shows(command, picture))
-            return fail(u"%1 did not write the pixels of the screen."_s.arg(command.name));
+            return Program::fail(u"%1 did not write the pixels of the screen."_s.arg(command.name));
 
     std::printf("%-10s %9s %9s %9s %9s %7s %10s\n", "", "wall ms", "p95 ms", "cpu ms", "p95 ms",
         "MiB", "bytes");
@@ -98,16 +92,10 @@ int measure(const VirtualDesktop& desktop, const QImage& picture, int roundCount
 // Whole processes in turn that save a 3840 × 2160 desktop. usage: ShotBench [ROUNDS]
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    const int rounds = std::max(1, QGuiApplication::arguments().value(1, u"11"_s).toInt());
-    const QSize size(3840, 2160);
-    const QImage picture = drawScreen(ScreenContent::Desk, size);
-
-    const auto desktop = VirtualDesktop::start({.size = size, .windowManager = false});
+    const Program program(argc, argv);
+    const QImage picture = drawScreen(ScreenContent::Desk, {3840, 2160});
+    const auto desktop = desktopOf(picture);
     if (!desktop)
-        return fail(desktop.error().message);
-    (*desktop)->setRootPicture(picture);
-    std::printf("%d x %d, %d rounds\n", size.width(), size.height(), rounds);
-    return measure(**desktop, picture, rounds);
+        return Program::fail(desktop.error().message);
+    return measure(**desktop, picture, Program::number(1, 11));
 }
