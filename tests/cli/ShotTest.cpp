@@ -14,20 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-DesktopOptions twoMonitors()
-{
-    DesktopOptions options;
-    options.size = {2304, 900};
-    options.monitors
-        = {{u"L"_s, QRect(0, 0, 1280, 800), 1}, {u"R"_s, QRect(1280, 50, 1024, 768), 2}};
-    return options;
-}
-
 DesktopOptions sharp()
 {
-    DesktopOptions options;
-    options.scale = 2;
-    return options;
+    return {.scale = 2};
 }
 
 VirtualDesktop::Finished pixmallow(const VirtualDesktop& desktop, const QStringList& arguments)
@@ -64,7 +53,7 @@ int dotsPerInch(const QImage& image)
 
 using ShotTest = DesktopTest<>;
 using SharpShotTest = DesktopTest<sharp>;
-using TwoMonitorShotTest = DesktopTest<twoMonitors>;
+using TwoMonitorShotTest = DesktopTest<twoMonitors<1, 2>>;
 
 } // namespace
 

@@ -34,14 +34,3 @@ QRect waitForGeometry(Client& client)
         = std::sscanf(last.constData(), "geometry %d,%d,%dx%d", &x, &y, &width, &height);
     return found == 4 ? QRect(x, y, width, height) : QRect();
 }
-
-QImage pictureOf(const Look& look, QSize size)
-{
-    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < size.height(); ++y) {
-        auto* const row = reinterpret_cast<quint32*>(picture.scanLine(y));
-        for (int x = 0; x < size.width(); ++x)
-            row[x] = pixelOf(look, x, y, size.width(), size.height());
-    }
-    return picture;
-}

@@ -19,6 +19,3 @@ ClientWindow openWindow(const VirtualDesktop& desktop, const QStringList& argume
 
 /// Takes the newest geometry that the client tells of after this call or has told of before.
 QRect waitForGeometry(Client& client);
-
-/// What a client window of this look shows without its frame, as ARGB32_Premultiplied.
-QImage pictureOf(const Look& look, QSize size);

@@ -21,10 +21,20 @@ inline DesktopOptions plainDesktop()
     return {};
 }
 
+/// Screens of two sizes side by side, the right one lower, with their pixels per point.
+template <int leftScale, int rightScale>
+DesktopOptions twoMonitors()
+{
+    return {.size = {2304, 900},
+        .monitors = {{QStringLiteral("L"), {0, 0, 1280, 800}, leftScale},
+            {QStringLiteral("R"), {1280, 50, 1024, 768}, rightScale}}};
+}
+
 /// A suite of tests that share a virtual desktop. From its start on the test program itself lives
 /// in that desktop too, so that nothing it writes reaches the home of whoever runs it.
 ///     using OverlayTest = DesktopTest<>;
-///     using TwoMonitorTest = DesktopTest<twoMonitors>; // a function that returns DesktopOptions
+///     using TwoMonitorTest = DesktopTest<twoMonitors<1, 2>>; // a function that returns
+///     DesktopOptions
 template <DesktopOptions (*options)() = plainDesktop>
 class DesktopTest : public ServerTest {
 protected:

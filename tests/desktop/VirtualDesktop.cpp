@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/desktop/VirtualDesktop.h"
 
-#include "tests/desktop/XReply.h"
+#include "platform/x11/Reply.h"
 
 #include <QCoreApplication>
 #include <QDir>

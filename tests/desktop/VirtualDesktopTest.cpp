@@ -13,17 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-DesktopOptions twoMonitors()
-{
-    return {.size = QSize(2400, 900),
-        .monitors = {{u"L"_s, QRect(0, 0, 1280, 800)}, {u"R"_s, QRect(1280, 50, 1024, 768), 2}}};
-}
-
-DesktopOptions composited()
-{
-    return {.compositor = Compositor::Picom, .tray = true};
-}
-
 /// Processes that run in the desktop with this home.
 std::vector<pid_t> processesIn(const QString& home)
 {
@@ -51,8 +40,6 @@ bool isTidy(const QString& display)
 } // namespace
 
 using VirtualDesktopTest = DesktopTest<>;
-using TwoMonitorsTest = DesktopTest<twoMonitors>;
-using CompositedTest = DesktopTest<composited>;
 
 TEST_F(VirtualDesktopTest, keysReachTheFocusedClientAndAClickRaises)
 {
@@ -75,64 +62,6 @@ TEST_F(VirtualDesktopTest, keysReachTheFocusedClientAndAClickRaises)
     desktop().key("ctrl+shift+1");
     EXPECT_FALSE(lower.client->waitForLine("key ctrl+shift+1").isNull());
     EXPECT_THROW(desktop().key("ctrl+nonsense"), std::invalid_argument);
-
-    lower.client->send("move 500 300");
-    EXPECT_EQ(waitForGeometry(*lower.client), QRect(500, 300, 400, 300));
-}
-
-TEST_F(VirtualDesktopTest, clientWindowsAreWhatTheyAreAskedToBe)
-{
-    QImage behind(desktop().rootPixels().size(), QImage::Format_RGB32);
-    behind.fill(0x102030);
-    desktop().setRootPicture(behind);
-    const xcb_window_t root = desktop().screen().root;
-    const auto picture = desktop().property(root, "_XROOTPMAP_ID");
-    EXPECT_EQ(picture.size(), 1u);
-
-    const ClientWindow menu = open({u"--override-redirect"_s, u"--shaped"_s, u"--no-pid"_s,
-        u"--own"_s, u"--geometry"_s, u"40,40,50x50"_s, u"--colour"_s, u"#ff0000"_s});
-    EXPECT_EQ(desktop().rootPixels(QRect(40, 40, 1, 1)).pixel(0, 0), 0xff102030);
-    EXPECT_EQ(desktop().rootPixels(QRect(65, 40, 1, 1)).pixel(0, 0), 0xffff0000);
-    EXPECT_EQ(desktop().property(menu.id, "_PIXMALLOW_OWN"), std::vector<quint32> {1});
-    EXPECT_TRUE(desktop().property(menu.id, "_NET_WM_PID").empty());
-
-    const ClientWindow drawsShadow = open({u"--csd"_s, u"10,11,12,13"_s, u"--type"_s, u"DIALOG"_s});
-    const std::vector<quint32> shadow {10, 11, 12, 13}, noFrame(4);
-    EXPECT_EQ(desktop().property(drawsShadow.id, "_GTK_FRAME_EXTENTS"), shadow);
-    EXPECT_EQ(desktop().property(drawsShadow.id, "_NET_FRAME_EXTENTS"), noFrame);
-    EXPECT_EQ(desktop().property(drawsShadow.id, "_NET_WM_PID"),
-        std::vector {quint32(drawsShadow.client->pid())});
-
-    const ClientWindow hidden = open({u"--minimized"_s});
-    const ClientWindow dock = open({u"--type"_s, u"DOCK"_s, u"--argb"_s});
-    const ClientWindow everything = open({u"--fullscreen"_s});
-    EXPECT_EQ(everything.geometry, QRect(0, 0, 1280, 800));
-    const auto listed = desktop().property(root, "_NET_CLIENT_LIST");
-    EXPECT_EQ(listed, (std::vector {drawsShadow.id, hidden.id, dock.id, everything.id}));
-}
-
-TEST_F(TwoMonitorsTest, programsSeeBothMonitorsAndTheirScales)
-{
-    EXPECT_EQ(desktop().rootPixels().size(), QSize(2400, 900));
-    EXPECT_EQ(desktop().environment().value(u"QT_SCREEN_SCALE_FACTORS"_s), u"L=1;R=2"_s);
-    const QStringList onR {u"--fullscreen"_s, u"--geometry"_s, u"1500,300,200x200"_s};
-    EXPECT_EQ(open(onR).geometry, QRect(1280, 50, 1024, 768));
-    EXPECT_FALSE(desktop().addMonitor(twoMonitors().monitors.back()));
-    EXPECT_TRUE(desktop().removeMonitor(u"R"_s));
-    EXPECT_TRUE(desktop().addMonitor({u"R"_s, QRect(1280, 0, 800, 600)}));
-    EXPECT_TRUE(waitFor([&] { return open(onR).geometry == QRect(1280, 0, 800, 600); }));
-}
-
-TEST_F(CompositedTest, translucentWindowsLetTheOnesBelowShine)
-{
-    const ClientWindow below = open({u"--colour"_s, u"#ffffff"_s});
-    const ClientWindow above = open({u"--argb"_s, u"--colour"_s, u"#000000"_s, u"--geometry"_s,
-        u"100,100,256x100"_s, u"--override-redirect"_s});
-    EXPECT_TRUE(desktop().isOwned("_NET_WM_CM_S0"));
-    EXPECT_TRUE(desktop().isOwned("_NET_SYSTEM_TRAY_S0"));
-    EXPECT_TRUE(desktop().waitForPixel({100 + 255, 150}, 0x000000));
-    EXPECT_TRUE(desktop().waitForPixel({100, 150}, 0xffffff));
-    EXPECT_TRUE(desktop().waitForPixel({100 + 128, 150}, 0x7f7f7f));
 }
 
 using DesktopLifeTest = ServerTest;

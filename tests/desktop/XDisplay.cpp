@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/desktop/XDisplay.h"
 
+#include "platform/x11/Reply.h"
 #include "tests/desktop/Waiting.h"
-#include "tests/desktop/XReply.h"
 
 #include <QPainter>
 
@@ -126,6 +126,20 @@ bool XDisplay::waitForPixel(QPoint position, QRgb colour) const
     });
 }
 
+void XDisplay::put(xcb_drawable_t where, quint8 depth, const QImage& image) const
+{
+    const xcb_gcontext_t context = xcb_generate_id(connection());
+    xcb_create_gc(connection(), context, where, 0, nullptr);
+    constexpr int strip = 128; // Rows; a request holds at most 16 MiB.
+    for (int y = 0; y < image.height(); y += strip) {
+        const int rows = qMin(strip, image.height() - y);
+        xcb_put_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, where, context,
+            quint16(image.width()), quint16(rows), 0, qint16(y), 0, depth,
+            quint32(image.bytesPerLine() * rows), image.constScanLine(y));
+    }
+    xcb_free_gc(connection(), context);
+}
+
 void XDisplay::setRootPicture(const QImage& picture)
 {
     const QSize size(screen().width_in_pixels, screen().height_in_pixels);
@@ -134,18 +148,9 @@ void XDisplay::setRootPicture(const QImage& picture)
     QPainter(&image).drawImage(0, 0, picture);
 
     const xcb_pixmap_t pixmap = xcb_generate_id(connection());
-    const xcb_gcontext_t context = xcb_generate_id(connection());
     xcb_create_pixmap(connection(), screen().root_depth, pixmap, screen().root,
         quint16(size.width()), quint16(size.height()));
-    xcb_create_gc(connection(), context, pixmap, 0, nullptr);
-    constexpr int strip = 128; // Rows; a request holds at most 16 MiB.
-    for (int y = 0; y < size.height(); y += strip) {
-        const int rows = qMin(strip, size.height() - y);
-        xcb_put_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, context,
-            quint16(size.width()), quint16(rows), 0, qint16(y), 0, screen().root_depth,
-            quint32(image.bytesPerLine() * rows), image.constScanLine(y));
-    }
-    xcb_free_gc(connection(), context);
+    put(pixmap, screen().root_depth, image);
     xcb_change_window_attributes(connection(), screen().root, XCB_CW_BACK_PIXMAP, &pixmap);
     xcb_clear_area(connection(), 0, screen().root, 0, 0, 0, 0);
     for (const char* name : {"_XROOTPMAP_ID", "ESETROOT_PMAP_ID"})

@@ -76,6 +76,9 @@ protected:
     Result<void> connect(const QString& name);
     void disconnect() { m_connection.reset(); }
 
+    /// Paints a picture of 32 bits a pixel into a window or pixmap, from its top left corner on.
+    void put(xcb_drawable_t where, quint8 depth, const QImage& image) const;
+
 private:
     struct Disconnect {
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "platform/x11/Reply.h"
 #include "tests/desktop/XDisplay.h"
-#include "tests/desktop/XReply.h"
 
 #include <QList>
 #include <QThread>

@@ -9,43 +9,30 @@ namespace {
 
 /// The monitors side by side, none as high as the other.
 template <int leftPercent, int rightPercent>
-DesktopOptions twoMonitors()
+DesktopOptions oddMonitors()
 {
-    DesktopOptions options;
-    options.size = {1681, 721};
-    options.monitors = {{u"L"_s, QRect(0, 0, 1001, 701), leftPercent / 100.0},
-        {u"R"_s, QRect(1001, 50, 680, 671), rightPercent / 100.0}};
-    return options;
+    return {.size = {1681, 721},
+        .monitors = {{u"L"_s, QRect(0, 0, 1001, 701), leftPercent / 100.0},
+            {u"R"_s, QRect(1001, 50, 680, 671), rightPercent / 100.0}}};
 }
 
 DesktopOptions compositedFractions()
 {
-    DesktopOptions options = twoMonitors<150, 175>();
+    DesktopOptions options = oddMonitors<150, 175>();
     options.compositor = Compositor::Picom;
     return options;
 }
 
 DesktopOptions withPanel()
 {
-    DesktopOptions options;
-    options.tray = true;
-    return options;
+    return {.tray = true};
 }
 
 using RegionOverlayTest = DesktopTest<>;
 using PanelOverlayTest = DesktopTest<withPanel>;
-using MixedOverlayTest = DesktopTest<twoMonitors<100, 200>>;
-using SharpFirstOverlayTest = DesktopTest<twoMonitors<200, 100>>;
+using MixedOverlayTest = DesktopTest<oddMonitors<100, 200>>;
+using SharpFirstOverlayTest = DesktopTest<oddMonitors<200, 100>>;
 using FractionOverlayTest = DesktopTest<compositedFractions>;
-
-QImage wallpaper(QSize size)
-{
-    QImage picture(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x)
-            picture.setPixel(x, y, patternColour(x, y, 7));
-    return picture;
-}
 
 /// What is on the screen when nothing moves there any more.
 QImage settledScreen(const VirtualDesktop& desktop)
@@ -123,7 +110,7 @@ private:
 void takesExactlyWhatIsDragged(VirtualDesktop& desktop, const std::vector<QRect>& monitors)
 {
     const auto root = desktop.rootPixels().size();
-    desktop.setRootPicture(wallpaper(root));
+    desktop.setRootPicture(patternOf(root));
     const QImage screen = settledScreen(desktop);
     Selections selections(desktop);
     const auto begin = [&] { // A compositor shows the last selection for a moment longer.
@@ -213,7 +200,7 @@ TEST_F(MixedOverlayTest, listensToTheKeysOfTheScreenUnderThePointer)
 
 TEST_F(RegionOverlayTest, takesWindows)
 {
-    desktop().setRootPicture(wallpaper({1280, 800}));
+    desktop().setRootPicture(patternOf({1280, 800}));
     const auto window = open({u"--pattern"_s, u"3"_s, u"--geometry"_s, u"200,150,400x300"_s});
     const auto above = open({u"--pattern"_s, u"4"_s, u"--geometry"_s, u"400,250,300x300"_s});
     const QImage screen = settledScreen(desktop());

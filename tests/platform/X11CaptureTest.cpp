@@ -65,33 +65,12 @@ const Window* find(const QList<Window>& windows, WindowId id)
 
 DesktopOptions composited()
 {
-    DesktopOptions options;
-    options.compositor = Compositor::Picom;
-    return options;
-}
-
-DesktopOptions twoMonitors()
-{
-    DesktopOptions options;
-    options.size = {2304, 900};
-    options.monitors
-        = {{u"L"_s, QRect(0, 0, 1280, 800), 2}, {u"R"_s, QRect(1280, 50, 1024, 768), 1}};
-    return options;
+    return {.compositor = Compositor::Picom};
 }
 
 using X11CaptureTest = DesktopTest<>;
 using CompositedCaptureTest = DesktopTest<composited>;
-using TwoMonitorCaptureTest = DesktopTest<twoMonitors>;
-
-/// A picture whose pixels differ everywhere, so that any shift is seen.
-QImage wallpaper(QSize size)
-{
-    QImage picture(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x)
-            picture.setPixel(x, y, patternColour(x, y, 7));
-    return picture;
-}
+using TwoMonitorCaptureTest = DesktopTest<twoMonitors<2, 1>>;
 
 /// Paints the root window as desktops without a wallpaper do: nothing tells of it.
 void setRootColour(const XDisplay& display, std::uint32_t colour)
@@ -139,7 +118,7 @@ void leavesOwnWindowsOut(const VirtualDesktop& desktop)
 
 TEST_F(X11CaptureTest, takesThePixelsThatAnotherClientReads)
 {
-    desktop().setRootPicture(wallpaper({1280, 800}));
+    desktop().setRootPicture(patternOf({1280, 800}));
     const auto client = open({u"--pattern"_s, u"1"_s, u"--geometry"_s, u"300,200,640x480"_s});
     auto here = platform();
     for (const QRect rect : {QRect(0, 0, 1280, 800), QRect(17, 33, 1, 1), QRect(1279, 799, 1, 1),
@@ -268,7 +247,7 @@ TEST_F(X11CaptureTest, keepsAlphaShapeAndShadowApart)
     const QImage cut = window(here, shaped.id);
     for (int y = 0; y < 120; ++y)
         for (int x = 0; x < 200; ++x) {
-            const int inset = roundedInset(y, 120);
+            const int inset = cornerInset(y, 120);
             const bool inside = x >= inset && x < 200 - inset;
             ASSERT_EQ(cut.pixel(x, y), inside ? 0xff123456 : 0u) << x << ',' << y;
         }
@@ -291,13 +270,13 @@ TEST_F(X11CaptureTest, leavesOwnWindowsOut)
     setRootColour(desktop(), 0x336699);
     ASSERT_TRUE(desktop().waitForPixel({1270, 790}, 0xff336699));
     leavesOwnWindowsOut(desktop());
-    desktop().setRootPicture(wallpaper({1280, 800}));
+    desktop().setRootPicture(patternOf({1280, 800}));
     leavesOwnWindowsOut(desktop());
 }
 
 TEST_F(CompositedCaptureTest, leavesOwnWindowsOut)
 {
-    desktop().setRootPicture(wallpaper({1280, 800}));
+    desktop().setRootPicture(patternOf({1280, 800}));
     leavesOwnWindowsOut(desktop());
 }
 
@@ -353,7 +332,7 @@ TEST_F(TwoMonitorCaptureTest, knowsScreensInPixelsAndPoints)
     EXPECT_EQ(displays[1].native, QRect(1280, 50, 1024, 768));
     EXPECT_EQ(displays[1].points, QRectF(1280, 400 - 50 - 768, 1024, 768));
 
-    desktop().setRootPicture(wallpaper({2304, 900}));
+    desktop().setRootPicture(patternOf({2304, 900}));
     for (const auto& display : displays)
         EXPECT_EQ(area(here, display.native), opaque(desktop().rootPixels(display.native)));
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "platform/x11/Reply.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -10,24 +11,8 @@
 
 #include <xcb/xcb.h>
 
-#include <cstdlib>
 #include <memory>
 #include <vector>
-
-struct FreeReply {
-    void operator()(void* reply) const { std::free(reply); }
-};
-
-/// A reply or error of the X server, owned.
-template <typename T>
-using Reply = std::unique_ptr<T, FreeReply>;
-
-/// Takes ownership of what an xcb call handed out; null when the request failed.
-template <typename T>
-Reply<T> owned(T* reply)
-{
-    return Reply<T>(reply);
-}
 
 /// Our own connection to the X server, apart from the toolkit's, so that the front program needs no
 /// toolkit. A server that goes away shows as null replies; failure() then tells why.

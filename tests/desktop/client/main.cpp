@@ -2,28 +2,81 @@
 // SPDX-License-Identifier: MIT
 #include "tests/desktop/client/Window.h"
 
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
-#include <poll.h>
+#include <iostream>
 #include <sys/prctl.h>
-#include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Splits what was read into lines and gives them to the window; false when it is to close.
-bool obeyInput(Window& window, std::string& pending)
+constexpr const char* description = R"(A window for tests.
+Lines it writes: mapped 0xID (on screen, painted and managed), geometry X,Y,WxH, focus in,
+  focus out, key CHORD, press BUTTON X,Y, keyboard grabbed, keyboard ungrabbed
+Lines it reads: raise, grab keyboard, ungrab keyboard)";
+
+template <typename... Numbers>
+void scan(const QString& text, const char* format, Numbers*... numbers)
 {
-    char bytes[4096];
-    const ssize_t count = ::read(STDIN_FILENO, bytes, sizeof bytes);
-    pending.append(bytes, std::size_t(std::max<ssize_t>(count, 0)));
-    for (std::size_t end = 0; (end = pending.find('\n')) != std::string::npos;) {
-        const std::string line = pending.substr(0, end);
-        pending.erase(0, end + 1);
-        if (!window.obey(line))
-            return false;
+    int read = 0; // The format ends in %n, so that nothing may follow.
+    const int found = std::sscanf(qPrintable(text), format, numbers..., &read);
+    if (found != int(sizeof...(numbers)) || read != text.size()) {
+        std::fprintf(stderr, "desktop-client: not understood: %s\n", qPrintable(text));
+        std::exit(2);
     }
-    return true;
+}
+
+ClientOptions readOptions()
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QString::fromLatin1(description));
+    parser.addHelpOption();
+    parser.addOptions({
+        {u"title"_s, {}, u"TEXT"_s, u"desktop-client"_s},
+        {u"class"_s, {}, u"INSTANCE,CLASS"_s, u"desktop-client,DesktopClient"_s},
+        {u"geometry"_s, u"Without its frame, in native pixels."_s, u"X,Y,WxH"_s,
+            u"100,100,400x300"_s},
+        {u"colour"_s, {}, u"#rrggbb"_s, u"#4080c0"_s},
+        {u"pattern"_s, u"Every pixel has its own colour."_s, u"SEED"_s},
+        {u"type"_s, {}, u"DIALOG|UTILITY|DOCK|..."_s},
+        {u"csd"_s, u"Draws its own shadow, so many pixels wide, and wants no frame."_s,
+            u"L,R,T,B"_s, u"0,0,0,0"_s},
+        {u"argb"_s, u"Is 32 bits deep, alpha from 0 at the left to 255 at the right."_s},
+        {u"override-redirect"_s, u"Is not managed by the window manager."_s},
+        {u"shaped"_s, u"Has corners that are cut off."_s},
+        {u"no-pid"_s, u"Does not tell its process."_s},
+        {u"own"_s, u"Is marked as a window of Pixmallow."_s},
+        {u"fullscreen"_s, {}},
+        {u"minimized"_s, {}},
+    });
+    parser.process(*QCoreApplication::instance());
+
+    ClientOptions options;
+    Look& look = options.look;
+    options.title = parser.value(u"title"_s).toUtf8();
+    options.type = parser.value(u"type"_s).toUtf8();
+    options.instance = parser.value(u"class"_s).section(u',', 0, 0).toUtf8();
+    options.className = parser.value(u"class"_s).section(u',', 1).toUtf8();
+    int x = 0, y = 0, width = 0, height = 0;
+    scan(parser.value(u"geometry"_s), "%d,%d,%dx%d%n", &x, &y, &width, &height);
+    options.geometry = {x, y, width, height};
+    scan(parser.value(u"colour"_s), "#%6x%n", &look.colour);
+    scan(parser.value(u"csd"_s), "%d,%d,%d,%d%n", &look.left, &look.right, &look.top, &look.bottom);
+    if (parser.isSet(u"pattern"_s))
+        scan(parser.value(u"pattern"_s), "%u%n", &look.seed.emplace());
+    look.translucent = parser.isSet(u"argb"_s);
+    options.overrideRedirect = parser.isSet(u"override-redirect"_s);
+    options.shaped = parser.isSet(u"shaped"_s);
+    options.withPid = !parser.isSet(u"no-pid"_s);
+    options.own = parser.isSet(u"own"_s);
+    options.fullscreen = parser.isSet(u"fullscreen"_s);
+    options.minimized = parser.isSet(u"minimized"_s);
+    return options;
 }
 
 } // namespace
@@ -31,26 +84,30 @@ bool obeyInput(Window& window, std::string& pending)
 int main(int count, char** arguments)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-    const Options options = readOptions(count, arguments);
-    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
-    if (xcb_connection_has_error(connection)) {
-        std::fprintf(stderr, "desktop-client: no connection to the display\n");
+    std::ios::sync_with_stdio(false); // So that it is known how much has been read.
+    const QCoreApplication application(count, arguments);
+    Window window(readOptions());
+    if (const auto opened = window.open(); !opened) {
+        std::fprintf(stderr, "desktop-client: %s\n", qPrintable(opened.error().message));
         return 1;
     }
-    Window window(connection, options);
-    std::string pending;
-    pollfd sources[]
-        = {{xcb_get_file_descriptor(connection), POLLIN, 0}, {STDIN_FILENO, POLLIN, 0}};
-    bool open = true;
-    while (open) {
-        open = window.handleEvents();
-        if (!open || ::poll(sources, 2, -1) < 0)
-            break;
-        if (sources[1].revents & POLLIN)
-            open = obeyInput(window, pending);
-        else if (sources[1].revents)
-            sources[1].fd = -1; // Nobody commands any more.
-    }
-    xcb_disconnect(connection);
-    return 0;
+    QSocketNotifier server(xcb_get_file_descriptor(window.connection()), QSocketNotifier::Read);
+    QSocketNotifier commands(0, QSocketNotifier::Read);
+    const auto handleEvents = [&] {
+        if (!window.handleEvents())
+            QCoreApplication::quit();
+    };
+    QObject::connect(&server, &QSocketNotifier::activated, handleEvents);
+    QObject::connect(&commands, &QSocketNotifier::activated, [&] {
+        std::string line;
+        do {
+            if (std::getline(std::cin, line))
+                window.obey(QByteArray::fromStdString(line));
+            else
+                commands.setEnabled(false); // Nobody commands any more.
+        } while (std::cin.rdbuf()->in_avail() > 0);
+        handleEvents(); // Those that came with the replies.
+    });
+    handleEvents();
+    return QCoreApplication::exec();
 }
