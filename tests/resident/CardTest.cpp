@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
-#include "tests/desktop/XReply.h"
+#include "platform/x11/Reply.h"
 #include "tests/resident/ResidentDesktop.h"
-
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -38,6 +36,7 @@ protected:
         Base::SetUp();
         if (testing::Test::IsSkipped())
             return;
+        Base::setPreferences("{}");
         const auto* const screen = &desktop().screen();
         QImage plain(screen->width_in_pixels, screen->height_in_pixels, QImage::Format_RGB32);
         plain.fill(backdrop);
@@ -50,16 +49,6 @@ protected:
         auto* const xcb = desktop().connection();
         const auto reply = owned(xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
         return reply ? reply->focus : xcb_window_t(XCB_NONE);
-    }
-
-    /// Before the resident program starts.
-    void setPreferences(const QByteArray& json)
-    {
-        const QString folder = desktop().home() + u"/.config/Pixmallow"_s;
-        QDir().mkpath(folder);
-        QFile file(folder + u"/preferences.json"_s);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(json);
     }
 
     /// Whether a card comes into the bottom right corner of a screen, in its final place.
@@ -146,7 +135,6 @@ TEST_F(CardTest, isDraggedIntoAnotherProgramAsAFile)
 
 TEST_F(CardTest, staysWhileThePointerIsOnIt)
 {
-    pixmallow({u"quit"_s});
     setPreferences(R"({"previewSeconds":1})");
     desktop().moveTo({600, 400});
     capture(u"screen"_s);
@@ -159,8 +147,6 @@ TEST_F(CardTest, staysWhileThePointerIsOnIt)
     EXPECT_TRUE(comes());
     desktop().moveTo({600, 400});
     EXPECT_TRUE(goes());
-    pixmallow({u"quit"_s});
-    setPreferences("{}");
 }
 
 TEST_F(TwoScreenCardTest, comesOnTheScreenUnderThePointer)

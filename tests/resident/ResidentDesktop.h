@@ -5,6 +5,7 @@
 #include "tests/desktop/DesktopTest.h"
 
 #include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -13,6 +14,14 @@ template <DesktopOptions (*options)()>
 class ResidentDesktop : public DesktopTest<options> {
 protected:
     using Base = DesktopTest<options>;
+
+    /// For what happens with a capture, not to what is shown then, which would be in the way.
+    void SetUp() override
+    {
+        Base::SetUp();
+        if (!testing::Test::IsSkipped())
+            setPreferences(R"({"afterCapture":"none","captureAnimation":"none"})");
+    }
 
     void TearDown() override { pixmallow({QStringLiteral("quit")}); }
 
@@ -29,6 +38,16 @@ protected:
             {QStringLiteral("capture"), kind, QStringLiteral("--wait"), QStringLiteral("--json")});
         EXPECT_EQ(finished.exitCode, 0) << finished.errors.toStdString();
         return QJsonDocument::fromJson(finished.output).object();
+    }
+
+    /// Before the resident program starts.
+    void setPreferences(const QByteArray& json)
+    {
+        const QString folder = Base::desktop().home() + QStringLiteral("/.config/Pixmallow");
+        QDir().mkpath(folder);
+        QFile file(folder + QStringLiteral("/preferences.json"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(json);
     }
 
     QStringList saved() { return saved(QDir::Files); }
