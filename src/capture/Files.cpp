@@ -172,12 +172,10 @@ void Files::cleanTemporaries(const Folders& folders)
     QDir(temporaryFolder(folders)).removeRecursively();
 }
 
-void Files::reveal(Workspace& workspace, const QString& path, const QString& saveFolder)
+Pending<void> Files::reveal(Workspace& workspace, const QString& path, const QString& saveFolder)
 {
-    if (!path.isEmpty() && QFileInfo::exists(path)) {
-        workspace.reveal(path);
-        return;
-    }
+    if (!path.isEmpty() && QFileInfo::exists(path))
+        return workspace.reveal(path);
     ensureFolder(saveFolder);
-    workspace.open(saveFolder);
+    return workspace.open(saveFolder);
 }

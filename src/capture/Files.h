@@ -46,6 +46,6 @@ std::optional<QString> tempPNG(
 void cleanTemporaries(const Folders& folders);
 
 /// Shows a file in the file manager, or opens the save folder when there is none.
-void reveal(Workspace& workspace, const QString& path, const QString& saveFolder);
+Pending<void> reveal(Workspace& workspace, const QString& path, const QString& saveFolder);
 
 } // namespace Files

@@ -28,14 +28,31 @@ public:
     QStringList files;
 };
 
+/// Remembers what it was asked; says what it is told to.
 class FakeWorkspace final : public Workspace {
 public:
-    void reveal(const QString& path) override { revealed = path; }
-    void open(const QString& fileOrFolder) override { opened = fileOrFolder; }
+    Pending<void> reveal(const QString& path) override { return noted(revealed, path); }
+    Pending<void> open(const QString& path) override { return noted(opened, path); }
+    Pending<void> mail(const QString& path) override { return noted(mailed, path); }
+    Pending<void> openWith(const QString& path) override { return noted(openedWith, path); }
+    Pending<void> openPermissionSettings() override
+    {
+        ++settingsOpened;
+        return Pending<void>::answered(result);
+    }
     void relaunch() override { ++relaunches; }
 
-    QString revealed, opened;
+    QString revealed, opened, mailed, openedWith;
+    int settingsOpened = 0;
     int relaunches = 0;
+    Result<void> result;
+
+private:
+    Pending<void> noted(QString& where, const QString& path)
+    {
+        where = path;
+        return Pending<void>::answered(result);
+    }
 };
 
 class FakeAppearance final : public Appearance {

@@ -4,10 +4,14 @@
 
 #include "platform/Workspace.h"
 
-/// The file manager by its D-Bus interface; everything else by the desktop's associations.
+/// The file manager by its D-Bus interface, mail and the choice of a program by the desktop's
+/// portal; where these are missing, and for everything else, the desktop's associations.
 class DesktopWorkspace final : public Workspace {
 public:
-    void reveal(const QString& path) override;
-    void open(const QString& fileOrFolder) override;
+    Pending<void> reveal(const QString& path) override;
+    Pending<void> open(const QString& fileOrFolder) override;
+    Pending<void> mail(const QString& path) override;
+    Pending<void> openWith(const QString& path) override;
+    Pending<void> openPermissionSettings() override;
     void relaunch() override;
 };
