@@ -57,5 +57,7 @@ QColor Contrast::readable(QColor colour, const QList<QColor>& grounds, double le
 
 QColor Contrast::onGround(QColor ground)
 {
-    return ratio(Qt::white, ground) >= ratio(Qt::black, ground) ? Qt::white : Qt::black;
+    // On a colour white looks lighter than it measures, so it need not be the better one.
+    const double white = ratio(Qt::white, ground);
+    return white >= text || white >= ratio(Qt::black, ground) ? Qt::white : Qt::black;
 }

@@ -24,7 +24,7 @@ QColor mixed(QColor first, QColor second, double amount);
 /// which are all dark or all light; black or white where none has.
 QColor readable(QColor colour, const QList<QColor>& grounds, double least = text);
 
-/// Black or white, whichever is better read on this ground.
+/// White where it can be read on this ground, else black or white, whichever is better read.
 QColor onGround(QColor ground);
 
 } // namespace Contrast
