@@ -3,6 +3,7 @@
 #include "platform/DesktopPlatform.h"
 
 #include "platform/freedesktop/DesktopAppearance.h"
+#include "platform/freedesktop/DesktopWords.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
 #include "platform/freedesktop/PulseSoundOutput.h"
 #include "platform/freedesktop/ToolkitClipboard.h"
@@ -35,6 +36,7 @@ Result<DesktopPlatform> makeDesktopPlatform()
     platform.appearance
         = std::make_unique<DesktopAppearance>(DesktopAppearance::TextScale::InScreenScale);
     platform.sound = std::make_unique<PulseSoundOutput>();
+    platform.words = desktopWords();
     platform.ownWindows = std::make_unique<OwnWindowMarker>();
     return platform;
 }

@@ -7,6 +7,7 @@
 #include "platform/Clipboard.h"
 #include "platform/Hotkeys.h"
 #include "platform/Platform.h"
+#include "platform/PlatformWords.h"
 #include "platform/SoundOutput.h"
 #include "platform/SurfaceTraits.h"
 #include "platform/Workspace.h"
@@ -20,6 +21,7 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<Hotkeys> hotkeys;
     std::unique_ptr<Appearance> appearance;
     std::unique_ptr<SoundOutput> sound;
+    PlatformWords words;
     std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
 };
 
