@@ -35,9 +35,10 @@ QByteArray coloured(const QString& symbol, const QColor& colour)
 /// Paints at whatever size is asked for.
 class Engine final : public QIconEngine {
 public:
-    Engine(QString symbol, const QColor& colour)
+    Engine(QString symbol, const QColor& colour, const QColor& active)
         : m_symbol(std::move(symbol))
         , m_colour(colour)
+        , m_active(active)
     {
     }
 
@@ -45,7 +46,7 @@ public:
 
     void paint(QPainter* painter, const QRect& box, QIcon::Mode mode, QIcon::State) override
     {
-        QColor colour = m_colour;
+        QColor colour = mode == QIcon::Active ? m_active : m_colour;
         if (mode == QIcon::Disabled)
             colour.setAlphaF(colour.alphaF() * 0.4f);
         Icons::paint(*painter, m_symbol, box, std::min(box.width(), box.height()), colour);
@@ -63,6 +64,7 @@ public:
 private:
     QString m_symbol;
     QColor m_colour;
+    QColor m_active;
 };
 
 } // namespace
@@ -103,7 +105,7 @@ void Icons::paint(
     painter.drawPixmap(QPointF(whole(corner.x()), whole(corner.y())), drawn);
 }
 
-QIcon Icons::icon(const QString& symbol, const QColor& colour)
+QIcon Icons::icon(const QString& symbol, const QColor& colour, const QColor& active)
 {
-    return QIcon(new Engine(symbol, colour));
+    return QIcon(new Engine(symbol, colour, active.isValid() ? active : colour));
 }

@@ -19,6 +19,7 @@ QPixmap pixmap(const QString& symbol, int size, const QColor& colour, double sca
 void paint(QPainter& painter, const QString& symbol, QRectF box, int size, const QColor& colour);
 
 /// For menus and buttons of the toolkit; dimmed by itself where they are disabled.
-QIcon icon(const QString& symbol, const QColor& colour);
+/// @param active the colour on a highlighted row, if that is another
+QIcon icon(const QString& symbol, const QColor& colour, const QColor& active = {});
 
 } // namespace Icons
