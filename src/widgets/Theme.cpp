@@ -96,8 +96,7 @@ Theme Theme::of(const Skin& skin, bool dark, const DesktopLook& desktop)
     theme.fillPressed = ink(tones, tones.pressed);
 
     theme.accent = skin.accent().value_or(desktop.accent.value_or(QColor(tones.accent)));
-    const bool whiteReads = Contrast::ratio(Qt::white, theme.accent) >= Contrast::text;
-    theme.onAccent = whiteReads ? QColor(Qt::white) : Contrast::onGround(theme.accent);
+    theme.onAccent = Contrast::onGround(theme.accent);
     const QColor away = theme.onAccent == QColor(Qt::white) ? Qt::black : Qt::white;
     theme.accentHover = Contrast::mixed(theme.accent, away, 0.08);
     theme.accentPressed = Contrast::mixed(theme.accent, away, 0.18);
