@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/kinds/Box.h"
+
+/// The picture itself in coarse blocks.
+class Blur final : public Box {
+public:
+    void draw(QPainter& painter, const Annotation& it, const QImage& base) const override;
+};

@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "editor/kinds/Line.h"
+
+#include <QPainter>
+
+void Line::draw(QPainter& painter, const Annotation& it, const QImage&) const
+{
+    painter.setPen(QPen(it.color, it.width, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(it.a, it.b);
+}

@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/kinds/Stroke.h"
+
+class Pen final : public Stroke {
+protected:
+    QPen pen(const Annotation& it) const override;
+    double margin(const Annotation& it) const override { return it.width; }
+};

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/AnnotationKind.h"
+
+/// A caption that begins at a, or lies about a.x if it is centered, in the look of its style.
+class Text final : public AnnotationKind {
+public:
+    void draw(QPainter& painter, const Annotation& it, const QImage& base) const override;
+    QRectF bounds(const Annotation& it) const override;
+    QRectF ink(const Annotation& it) const override;
+    Making making() const override { return Making::Typing; }
+    void begin(Annotation& it, const ToolSettings& settings, int number, double lot) const override;
+};
