@@ -215,6 +215,7 @@ void CanvasModel::release(QPointF at)
 CanvasModel::KeyAnswer CanvasModel::key(
     int key, Qt::KeyboardModifiers modifiers, const QString& typed)
 {
+    answerPrompt({});
     if (key == Qt::Key_Escape)
         return escape();
     if (m_pressed)
