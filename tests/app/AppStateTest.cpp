@@ -3,13 +3,12 @@
 #include "app/AppState.h"
 
 #include "platform/fake/FakePlatform.h"
+#include "tests/TestFiles.h"
+#include "tests/TestUser.h"
 
 #include <gmock/gmock.h>
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using Outcome = CaptureReport::Outcome;
@@ -19,12 +18,11 @@ namespace {
 const Application editorApp {u"org.example.editor"_s, u"Editor"_s, 77};
 
 /// The coordinator with a fake platform and rooms that write down when they are passed.
-class AppStateTest : public testing::Test {
+class AppStateTest : public testing::Test, protected TestUser {
 protected:
     AppStateTest()
     {
-        prefs.registerDefaults();
-        prefs.set(Prefs::keys.saveFolder, folder.filePath(u"shots"_s));
+        prefs.set(Prefs::keys.saveFolder, path(u"shots"_s));
         stages.closePreviews = [this] { steps << u"closePreviews"_s; };
         stages.showPermissionWindow = [this] { steps << u"permission"_s; };
         stages.playShutter = [this] { steps << u"shutter"_s; };
@@ -68,9 +66,6 @@ protected:
         return QDir(prefs.saveFolder()).entryList(QDir::Files | QDir::Hidden);
     }
 
-    QTemporaryDir folder;
-    Prefs prefs {Folders {.configuration = folder.filePath(u"config"_s), .pictures = folder.path()},
-        Prefs::Watch::Nothing};
     FakePlatform platform;
     HotkeyCenter hotkeys {*platform.hotkeys};
     CaptureStages stages;
@@ -102,9 +97,7 @@ TEST_F(AppStateTest, finishesInOrderAndEncodesOnce)
     EXPECT_EQ(report.historyId, u"id-1"_s);
     EXPECT_EQ(report.path, historyPath);
 
-    QFile file(report.path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), platform.fakeClipboard().png);
+    EXPECT_EQ(contentOf(report.path), platform.fakeClipboard().png);
     EXPECT_EQ(platform.fakeClipboard().image.deviceIndependentSize(), QSizeF(200, 150));
     const auto& asked = platform.fakeCapture().asked;
     ASSERT_EQ(asked.size(), 1);
@@ -144,8 +137,7 @@ TEST_F(AppStateTest, obeysThePreferences)
 
 TEST_F(AppStateTest, copiesAndRemembersWhatItCannotSave)
 {
-    QFile occupied(folder.filePath(u"shots"_s));
-    ASSERT_TRUE(occupied.open(QIODevice::WriteOnly));
+    put(path(u"shots"_s), "a file where the folder should be");
     const auto report = capture(CaptureKind::Screen);
     EXPECT_EQ(report.outcome, Outcome::Done);
     EXPECT_TRUE(report.path.isEmpty());

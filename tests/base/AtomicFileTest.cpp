@@ -2,21 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "base/AtomicFile.h"
 
-#include <QDir>
-#include <QFile>
+#include "tests/TestFiles.h"
+
 #include <QTemporaryDir>
 
-#include <gmock/gmock.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <csignal>
 #include <string>
 #include <thread>
-#include <tuple>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 using Existing = AtomicFile::Existing;
@@ -27,23 +22,10 @@ namespace {
 constexpr AtomicFile::Options keep {Existing::Keep};
 constexpr AtomicFile::Options replace {Existing::Replace};
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-}
-
 std::span<const std::uint8_t> bytesOf(const QByteArray& content)
 {
     return {
         reinterpret_cast<const std::uint8_t*>(content.constData()), std::size_t(content.size())};
-}
-
-mode_t modeOf(const QString& path)
-{
-    struct stat status { };
-    stat(QFile::encodeName(path).constData(), &status);
-    return status.st_mode & 07777;
 }
 
 class AtomicFileTest : public testing::Test {
@@ -112,33 +94,6 @@ TEST_F(AtomicFileTest, keepNeverReplacesWhateverHasTheName)
     ASSERT_FALSE(overLink);
     EXPECT_EQ(overLink.error().kind, Error::Kind::Exists);
     EXPECT_FALSE(QFile::exists(path(u"nowhere"_s)));
-}
-
-TEST_F(AtomicFileTest, ofManyThatWantOneNameExactlyOneGetsIt)
-{
-    constexpr int rounds = 50;
-    for (int round = 0; round < rounds; ++round) {
-        const QString name = path(QString::number(round));
-        std::atomic<int> winners = 0;
-        std::atomic<int> losers = 0;
-        std::atomic<int> winner = -1;
-        std::vector<std::jthread> threads;
-        for (int i = 0; i < 8; ++i)
-            threads.emplace_back([&, i] {
-                const auto result = writeFile(name, QByteArray(1000, char('a' + i)), keep);
-                if (result) {
-                    ++winners;
-                    winner = i;
-                } else if (result.error().kind == Error::Kind::Exists) {
-                    ++losers;
-                }
-            });
-        threads.clear();
-        ASSERT_EQ(winners, 1);
-        ASSERT_EQ(losers, 7);
-        ASSERT_EQ(contentOf(name), QByteArray(1000, char('a' + winner)));
-    }
-    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden).size(), rounds);
 }
 
 TEST_F(AtomicFileTest, replacesWhatALinkPointsAtAndKeepsItsPermissions)

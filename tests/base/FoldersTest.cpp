@@ -2,27 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/Folders.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "tests/TestFiles.h"
+
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-mode_t modeOf(const QString& path)
-{
-    struct stat status { };
-    stat(QFile::encodeName(path).constData(), &status);
-    return status.st_mode & 07777;
-}
-
-} // namespace
 
 TEST(FoldersTest, followTheVariablesOfTheSession)
 {
@@ -53,7 +39,7 @@ TEST(FoldersTest, aPrivateFolderIsTheOwnersAloneOrRefused)
     EXPECT_EQ(modeOf(folder), 0700);
 
     const QString file = root.filePath(u"file"_s);
-    ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+    put(file, {});
     const auto overFile = ensurePrivateFolder(file);
     ASSERT_FALSE(overFile);
     EXPECT_EQ(overFile.error().message, u"Couldn't use the folder “%1”: it is a file."_s.arg(file));

@@ -1,15 +1,11 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
 #include "app/ControlServer.h"
+#include "tests/TestFiles.h"
 #include "tests/desktop/Client.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QTemporaryDir>
-#include <QTimer>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +42,7 @@ protected:
                     answer = std::move(toAnswer);
                     return std::move(pending);
                 },
-            .quit = [this] { QTimer::singleShot(200, [this] { server.reset(); }); }});
+            .quit = [] {}});
     }
 
     std::unique_ptr<Client> start(const QString& arguments, QString program = {}) const
@@ -139,16 +135,6 @@ TEST_F(ResidentCommandsTest, captureReturnsWhenAcceptedUnlessItWaits)
     EXPECT_EQ(finished.errors, "pixmallow: Pixmallow ended before it answered.\n");
 }
 
-TEST_F(ResidentCommandsTest, quitReturnsWhenTheResidentProgramHasEnded)
-{
-    serve();
-    const auto quit = start(u"quit"_s);
-    const auto finished = end(*quit);
-    EXPECT_EQ(finished.exitCode, 0) << finished.errors.toStdString();
-    EXPECT_FALSE(server);
-    EXPECT_EQ(run(u"quit"_s).exitCode, 0); // As wanted already.
-}
-
 /// The front program in a folder where a script stands for the resident one.
 class StartTest : public ResidentCommandsTest {
 protected:
@@ -161,16 +147,9 @@ protected:
 
     void putResident(const QByteArray& script) const
     {
-        QFile file(programs + u"/pixmallow-desktop"_s);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write("#!/bin/sh\ncd \"${0%/*}\"\n" + script);
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-
-    QByteArray recorded() const
-    {
-        QFile file(programs + u"/record"_s);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        const QString resident = programs + u"/pixmallow-desktop"_s;
+        put(resident, "#!/bin/sh\ncd \"${0%/*}\"\n" + script);
+        QFile::setPermissions(resident, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
     QString programs = directory.filePath(u"programs"_s);
@@ -204,8 +183,9 @@ TEST_F(StartTest, captureStartsTheResidentProgramDetachedAndWaitsUntilItAnswers)
                 "echo $* $((session == $$)) $(readlink /proc/$$/fd/[012]) > record.part\n"
                 "mv record.part record\n");
     const auto client = start(u"capture region --wait"_s, front);
-    EXPECT_TRUE(waitFor([this] { return !recorded().isEmpty(); }));
-    EXPECT_EQ(recorded(), "--background 1 /dev/null /dev/null /dev/null\n");
+    const QString record = programs + u"/record"_s;
+    EXPECT_TRUE(waitFor([&] { return QFile::exists(record); }));
+    EXPECT_EQ(contentOf(record), "--background 1 /dev/null /dev/null /dev/null\n");
     EXPECT_FALSE(waitFor([&] { return !client->isRunning(); }, std::chrono::milliseconds(100)));
     report = CaptureReport {CaptureReport::Outcome::Done, {}, u"/a.png"_s};
     serve();

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "tests/TestFiles.h"
 #include "tests/desktop/DesktopTest.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -93,10 +92,8 @@ TEST_F(ShotTest, takesACoveredWindowThatTheListNames)
     const QImage taken = shot(desktop(), {u"--window"_s, id});
     const QPoint frame(
         windows[1][u"area"_s][u"x"_s].toInt(), windows[1][u"area"_s][u"y"_s].toInt());
-    Look look;
-    look.seed = 2;
     EXPECT_TRUE(equal(taken.copy(QRect(window.geometry.topLeft() - frame, QSize(300, 200))),
-        pictureOf(look, {300, 200})));
+        patternOf({300, 200}, 2)));
     EXPECT_GT(shot(desktop(), {u"--window"_s, id, u"--shadow"_s}).width(), taken.width());
 }
 
@@ -121,9 +118,7 @@ TEST_F(ShotTest, namesItsFilesAndNeverReplacesOneUnasked)
 TEST_F(ShotTest, leavesTheOldFileWhenItFails)
 {
     const QString path = desktop().home() + u"/old.png"_s;
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
-    file.close();
+    put(path, "old");
     struct Case {
         QStringList arguments;
         int exitCode;
@@ -136,17 +131,14 @@ TEST_F(ShotTest, leavesTheOldFileWhenItFails)
         EXPECT_EQ(finished.exitCode, exitCode);
         EXPECT_EQ(finished.output, QByteArray());
         EXPECT_EQ(finished.errors.count('\n'), 1) << finished.errors.toStdString();
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_EQ(file.readAll(), "old");
-        file.close();
+        EXPECT_EQ(contentOf(path), "old");
     }
     // No room: the file size limit stands for the disk's.
     const auto full = desktop().run(u"sh"_s,
         {u"-c"_s, u"trap '' XFSZ; ulimit -f 1; exec pixmallow shot --output '%1'"_s.arg(path)});
     ASSERT_TRUE(full);
     EXPECT_EQ(full->exitCode, 2);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), "old");
+    EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(
         QDir(desktop().home()).entryList({u".pixmallow*"_s}, QDir::Files | QDir::Hidden).size(), 0);
 }

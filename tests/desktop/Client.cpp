@@ -9,9 +9,6 @@ void tieToParent(QProcess& process, Tie tie)
 {
     const pid_t parent = ::getpid();
     process.setChildProcessModifier([tie, parent] {
-        sigset_t none;
-        sigemptyset(&none); // A parent that reads its signals from a descriptor has them blocked.
-        sigprocmask(SIG_SETMASK, &none, nullptr);
         if (tie.group == Tie::Group::Own)
             ::setpgid(0, 0);
         ::prctl(PR_SET_PDEATHSIG, tie.deathSignal);

@@ -6,7 +6,6 @@
 
 #include <QFile>
 
-#include <csignal>
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -30,9 +29,6 @@ rm -rf -- "$1"
 /// The second of two forks: adopted by init, in its own session, with nothing of ours open.
 [[noreturn]] void becomeJanitor(int lifeline, const char* directory)
 {
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
     const int nowhere = ::open("/dev/null", O_RDWR);
     ::dup2(lifeline, 0);
     ::dup2(nowhere, 1);

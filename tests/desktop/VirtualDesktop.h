@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/desktop/Client.h"
+#include "tests/desktop/DesktopOptions.h"
 #include "tests/desktop/Janitor.h"
 #include "tests/desktop/XDisplay.h"
 
@@ -45,6 +46,10 @@ public:
     Result<std::unique_ptr<Client>> launch(
         const QString& program, const QStringList& arguments = {}) const;
 
+    /// Adds a monitor. The first one takes the server's only output and becomes primary.
+    Result<void> addMonitor(const Monitor& monitor);
+    Result<void> removeMonitor(const QString& name);
+
     /// The full path of a program as it is found in the desktop's PATH; as given if it is not.
     QString find(const QString& program) const;
 
@@ -58,6 +63,7 @@ private:
     explicit VirtualDesktop(DesktopOptions options);
 
     Result<void> startAll();
+    Result<void> changeScreens(const QStringList& arguments);
     Result<void> findPrograms();
     Result<void> makeHome();
     Result<void> startServer();
@@ -76,5 +82,6 @@ private:
     QString m_directory;
     Janitor m_janitor;
     QProcessEnvironment m_environment;
+    QString m_primary; ///< The monitor that has the output.
     std::vector<std::unique_ptr<Service>> m_services;
 };

@@ -57,6 +57,39 @@ Result<VirtualDesktop::Finished> VirtualDesktop::run(
     return Finished {(*client)->exitCode(), (*client)->output(), (*client)->errors()};
 }
 
+Result<void> VirtualDesktop::addMonitor(const Monitor& monitor)
+{
+    const bool isFirst = m_primary.isEmpty();
+    if (isFirst)
+        m_primary = monitor.name;
+    const auto extent = [](int pixels) { // Pixels and, at 96 dpi, millimetres.
+        return u"%1/%2"_s.arg(pixels).arg(pixels * 254 / 960);
+    };
+    const QRect& place = monitor.rectangle;
+    const QString geometry = u"%1x%2+%3+%4"_s.arg(extent(place.width()), extent(place.height()))
+                                 .arg(place.x())
+                                 .arg(place.y());
+    return changeScreens({u"--setmonitor"_s, (isFirst ? u"*"_s : QString()) + monitor.name,
+        geometry, isFirst ? u"screen"_s : u"none"_s});
+}
+
+Result<void> VirtualDesktop::removeMonitor(const QString& name)
+{
+    if (name == m_primary)
+        m_primary.clear();
+    return changeScreens({u"--delmonitor"_s, name});
+}
+
+Result<void> VirtualDesktop::changeScreens(const QStringList& arguments)
+{
+    const auto done = run(u"xrandr"_s, arguments);
+    if (!done)
+        return done.error();
+    if (done->exitCode != 0)
+        return Error::failed(QString::fromLocal8Bit(done->errors));
+    return {};
+}
+
 /// Logs go to files, as nobody reads pipes while a test computes. Standard output is read only for
 /// the one line that some services begin with.
 Result<VirtualDesktop::Service*> VirtualDesktop::startService(

@@ -7,53 +7,6 @@
 
 #include <QPainter>
 
-#include <optional>
-#include <sys/uio.h>
-#include <xcb/randr.h>
-#include <xcb/xcbext.h>
-
-namespace {
-
-/// The server's output if no monitor that was set has taken it yet.
-std::optional<xcb_randr_output_t> freeOutput(xcb_connection_t* connection, xcb_window_t root)
-{
-    const auto monitors = owned(xcb_randr_get_monitors_reply(
-        connection, xcb_randr_get_monitors(connection, root, 1), nullptr));
-    const auto resources = owned(xcb_randr_get_screen_resources_current_reply(
-        connection, xcb_randr_get_screen_resources_current(connection, root), nullptr));
-    if (!monitors || !resources || resources->num_outputs == 0)
-        return {};
-    for (auto each = xcb_randr_get_monitors_monitors_iterator(monitors.get()); each.rem;
-         xcb_randr_monitor_info_next(&each))
-        if (!each.data->automatic && each.data->nOutput > 0)
-            return {};
-    return *xcb_randr_get_screen_resources_current_outputs(resources.get());
-}
-
-/// RRSetMonitor, put together by hand: xcb_randr_set_monitor of libxcb 1.15 sends a wrong length,
-/// upon which the connection closes.
-bool setMonitor(xcb_connection_t* connection, xcb_window_t root,
-    const xcb_randr_monitor_info_t& info, std::optional<xcb_randr_output_t> output)
-{
-    struct {
-        xcb_randr_set_monitor_request_t head {};
-        xcb_randr_monitor_info_t info {};
-        xcb_randr_output_t output = XCB_NONE;
-    } request;
-    request.head.window = root;
-    request.info = info;
-    request.output = output.value_or(XCB_NONE);
-    xcb_protocol_request_t protocol {
-        .count = 1, .ext = &xcb_randr_id, .opcode = XCB_RANDR_SET_MONITOR, .isvoid = 1};
-    iovec parts[3] {}; // The library wants room for two parts of its own before the first.
-    parts[2] = {&request, sizeof request - (output ? 0 : sizeof request.output)};
-    const xcb_void_cookie_t cookie {
-        xcb_send_request(connection, XCB_REQUEST_CHECKED, parts + 2, &protocol)};
-    return !owned(xcb_request_check(connection, cookie)) && !xcb_connection_has_error(connection);
-}
-
-} // namespace
-
 Result<void> XDisplay::connect(const QString& name)
 {
     m_name = name;
@@ -160,34 +113,4 @@ void XDisplay::setRootPicture(const QImage& picture)
         xcb_free_pixmap(connection(), m_picture);
     m_picture = pixmap;
     sync();
-}
-
-Result<void> XDisplay::addMonitor(const Monitor& monitor)
-{
-    owned(xcb_randr_query_version_reply(
-        connection(), xcb_randr_query_version(connection(), 1, 5), nullptr));
-    const auto millimetres = [](int pixels) { return quint32(pixels * 254 / 960); }; // 96 dpi
-    const auto output = freeOutput(connection(), screen().root);
-    xcb_randr_monitor_info_t info {};
-    info.name = atom(monitor.name.toUtf8());
-    info.primary = output.has_value();
-    info.nOutput = output.has_value();
-    info.x = qint16(monitor.rectangle.x());
-    info.y = qint16(monitor.rectangle.y());
-    info.width = quint16(monitor.rectangle.width());
-    info.height = quint16(monitor.rectangle.height());
-    info.width_in_millimeters = millimetres(monitor.rectangle.width());
-    info.height_in_millimeters = millimetres(monitor.rectangle.height());
-    if (setMonitor(connection(), screen().root, info, output))
-        return {};
-    return Error::failed(QStringLiteral("The server refuses the monitor %1.").arg(monitor.name));
-}
-
-Result<void> XDisplay::removeMonitor(const QString& name)
-{
-    const auto cookie
-        = xcb_randr_delete_monitor_checked(connection(), screen().root, atom(name.toUtf8()));
-    if (owned(xcb_request_check(connection(), cookie)))
-        return Error::failed(QStringLiteral("There is no monitor %1.").arg(name));
-    return {};
 }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "base/Result.h"
-#include "tests/desktop/DesktopOptions.h"
 
 #include <QImage>
 #include <QPoint>
@@ -31,17 +30,17 @@ public:
     /// layout has on its shifted level gets shift as well.
     void key(const QByteArray& chord);
     void typeKeys(const QByteArray& text); ///< Latin-1 text; "\n" is Return, "\t" is Tab.
-    void pressKey(const QByteArray& name);
-    void releaseKey(const QByteArray& name);
+    void pressKey(const QByteArray& name) { pressKeyCode(codeOf(name)); }
+    void releaseKey(const QByteArray& name) { releaseKeyCode(codeOf(name)); }
     void pressKeyCode(xcb_keycode_t code) { send(XCB_KEY_PRESS, code); } ///< Of any layout.
     void releaseKeyCode(xcb_keycode_t code) { send(XCB_KEY_RELEASE, code); }
 
     // The pointer. Buttons: 1 left, 2 middle, 3 right, 4 and 5 the wheel up and down.
-    void moveTo(QPoint position);
-    void press(int button = 1);
-    void release(int button = 1);
-    void click(int button = 1);
-    void clickAt(QPoint position, int button = 1);
+    void moveTo(QPoint position) { send(XCB_MOTION_NOTIFY, 0, position); }
+    void press(int button = 1) { send(XCB_BUTTON_PRESS, button); }
+    void release(int button = 1) { send(XCB_BUTTON_RELEASE, button); }
+    void click(int button = 1) { press(button), release(button); }
+    void clickAt(QPoint position, int button = 1) { moveTo(position), click(button); }
 
     /// Button 1 from here to there in several steps, with a pause after each for programs that
     /// need time between them, as drag and drop does.
@@ -58,10 +57,6 @@ public:
     /// Shows a picture behind all windows as desktops do, from the top left corner on, black around
     /// it: background pixmap, _XROOTPMAP_ID and ESETROOT_PMAP_ID.
     void setRootPicture(const QImage& picture);
-
-    /// Adds a monitor by RandR. The first one added takes the only output and becomes primary.
-    Result<void> addMonitor(const Monitor& monitor);
-    Result<void> removeMonitor(const QString& name);
 
     xcb_atom_t atom(const QByteArray& name) const;
 
@@ -84,6 +79,7 @@ private:
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
 
+    xcb_keycode_t codeOf(const QByteArray& key) const;
     void send(int event, int detail, QPoint position = {});
     void sync() const;
 

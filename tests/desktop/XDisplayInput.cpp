@@ -64,14 +64,9 @@ void XDisplay::send(int event, int detail, QPoint position)
     sync();
 }
 
-void XDisplay::pressKey(const QByteArray& name)
+xcb_keycode_t XDisplay::codeOf(const QByteArray& key) const
 {
-    pressKeyCode(keyOf(connection(), symbolOf(name)).code);
-}
-
-void XDisplay::releaseKey(const QByteArray& name)
-{
-    releaseKeyCode(keyOf(connection(), symbolOf(name)).code);
+    return keyOf(connection(), symbolOf(key)).code;
 }
 
 void XDisplay::key(const QByteArray& chord)
@@ -100,33 +95,6 @@ void XDisplay::typeKeys(const QByteArray& text)
         xkb_keysym_get_name(symbol, name, sizeof name);
         key(name);
     }
-}
-
-void XDisplay::moveTo(QPoint position)
-{
-    send(XCB_MOTION_NOTIFY, 0, position);
-}
-
-void XDisplay::press(int button)
-{
-    send(XCB_BUTTON_PRESS, button);
-}
-
-void XDisplay::release(int button)
-{
-    send(XCB_BUTTON_RELEASE, button);
-}
-
-void XDisplay::click(int button)
-{
-    press(button);
-    release(button);
-}
-
-void XDisplay::clickAt(QPoint position, int button)
-{
-    moveTo(position);
-    click(button);
 }
 
 void XDisplay::drag(QPoint from, QPoint to, std::chrono::milliseconds pause)

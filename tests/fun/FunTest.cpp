@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "fun/Fun.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QTemporaryDir>
+#include "tests/TestFiles.h"
+#include "tests/TestUser.h"
 
 #include <gmock/gmock.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 
 #include <csignal>
 
@@ -16,19 +14,6 @@ using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 
 namespace {
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& text)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << qPrintable(path);
-    file.write(text);
-}
 
 /// While no file can grow.
 template <typename Work>
@@ -44,12 +29,12 @@ void onFullDisk(Work work)
     std::signal(SIGXFSZ, handler);
 }
 
-class FunTest : public testing::Test {
+class FunTest : public testing::Test, protected TestUser {
 protected:
     std::unique_ptr<Fun> start()
     {
         return std::make_unique<Fun>(
-            m_folders, m_prefs, FunSurroundings {[this] { return m_now; }, [](int) { return 0; }});
+            folders, prefs, FunSurroundings {[this] { return m_now; }, [](int) { return 0; }});
     }
     FunStats stored() const
     {
@@ -58,26 +43,15 @@ protected:
     QStringList damaged() const
     {
         QStringList paths;
-        const QDir folder(m_folders.data);
+        const QDir folder(folders.data);
         for (const auto& name : folder.entryList(QDir::AllEntries | QDir::System, QDir::Name))
             if (name.startsWith(u"stats.json.damaged-"_s))
                 paths << folder.filePath(name);
         return paths;
     }
 
-    QCoreApplication m_application {m_argumentCount, m_arguments};
-    const QTemporaryDir m_root;
-    const Folders m_folders {.configuration = m_root.filePath(u"configuration"_s),
-        .data = m_root.filePath(u"data/Pixmallow"_s),
-        .pictures = m_root.path()};
-    const QString m_path = m_folders.data + u"/stats.json"_s;
-    Prefs m_prefs {m_folders, Prefs::Watch::Nothing};
+    const QString m_path = folders.data + u"/stats.json"_s;
     QDateTime m_now {QDate(2026, 3, 7), QTime(23, 59, 59)};
-
-private:
-    static inline char m_name[] = "FunTest";
-    static inline char* m_arguments[] = {m_name, nullptr};
-    static inline int m_argumentCount = 1;
 };
 
 } // namespace
@@ -86,7 +60,7 @@ TEST_F(FunTest, whatWasCountedOutlivesTheProgram)
 {
     {
         const auto fun = start();
-        EXPECT_FALSE(QFile::exists(m_folders.data)) << "the history may have one to move there";
+        EXPECT_FALSE(QFile::exists(folders.data)) << "the history may have one to move there";
         fun->capture();
         fun->flush();
         EXPECT_EQ(stored(), fun->stats());
@@ -100,9 +74,7 @@ TEST_F(FunTest, whatWasCountedOutlivesTheProgram)
         fun->rename(u"  "_s);
         fun->rename(u" Mochi "_s);
     }
-    struct stat status { };
-    ASSERT_EQ(stat(QFile::encodeName(m_path).constData(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777, 0600u);
+    EXPECT_EQ(modeOf(m_path), 0600u);
 
     const auto fun = start();
     EXPECT_EQ(fun->stats().total, 2);
@@ -113,7 +85,7 @@ TEST_F(FunTest, whatWasCountedOutlivesTheProgram)
     fun->reset();
     fun->flush();
     EXPECT_EQ(stored(), FunStats {.petName = u"Mochi"_s});
-    EXPECT_EQ(QDir(m_folders.data).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    EXPECT_EQ(QDir(folders.data).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
 TEST_F(FunTest, announcesAndQueuesButShowsNothing)
@@ -138,7 +110,7 @@ TEST_F(FunTest, announcesAndQueuesButShowsNothing)
     EXPECT_THAT(texts, ElementsAre(u"First Snap"_s, u"Pixie is now a Hatchling"_s, u"Incognito"_s));
 
     heard.clear();
-    m_prefs.set(Prefs::keys.achievementToasts, false);
+    prefs.set(Prefs::keys.achievementToasts, false);
     fun->record(FunDeed::MemeAdded, 10);
     EXPECT_THAT(heard, ElementsAre(u"stats"_s));
     EXPECT_FALSE(fun->takePopUp());
@@ -147,9 +119,9 @@ TEST_F(FunTest, announcesAndQueuesButShowsNothing)
 
 TEST_F(FunTest, neverReplacesAFileItCannotRead)
 {
-    ASSERT_TRUE(QDir().mkpath(m_folders.data));
+    ASSERT_TRUE(QDir().mkpath(folders.data));
     for (const auto& text : {"", "{\"total\": 5}", "oops"}) {
-        write(m_path, text);
+        put(m_path, text);
         const auto fun = start();
         EXPECT_EQ(fun->stats(), FunStats());
         EXPECT_EQ(contentOf(m_path), text) << "as long as nothing is written";
@@ -165,7 +137,7 @@ TEST_F(FunTest, neverReplacesAFileItCannotRead)
     EXPECT_THAT(contents, testing::UnorderedElementsAre("", "{\"total\": 5}", "oops"));
 
     const auto fun = start();
-    write(m_path, FunStats {.total = 99}.toJson()); // Put back from somewhere meanwhile.
+    put(m_path, FunStats {.total = 99}.toJson()); // Put back from somewhere meanwhile.
     fun->capture();
     fun->flush();
     EXPECT_EQ(stored().total, 1);
@@ -198,7 +170,7 @@ TEST_F(FunTest, aFullDiskLosesNothing)
     fun->flush();
     EXPECT_EQ(stored(), fun->stats());
 
-    write(m_path, "oops");
+    put(m_path, "oops");
     fun = start();
     onFullDisk([&] {
         fun->capture();
@@ -209,19 +181,6 @@ TEST_F(FunTest, aFullDiskLosesNothing)
     EXPECT_EQ(stored().total, 2);
     ASSERT_EQ(damaged().size(), 1);
     EXPECT_EQ(contentOf(damaged().at(0)), "oops");
-}
-
-TEST_F(FunTest, withoutAFolderItCountsOn)
-{
-    write(m_root.filePath(u"data"_s), "a file where the folder should be");
-    const auto fun = start();
-    fun->capture();
-    fun->flush();
-    EXPECT_EQ(fun->stats().total, 1);
-    ASSERT_TRUE(QFile::remove(m_root.filePath(u"data"_s)));
-    fun->capture();
-    fun->flush();
-    EXPECT_EQ(stored().total, 2);
 }
 
 TEST_F(FunTest, theClockFollowsTheTimeZoneWhereverItGoes)

@@ -163,10 +163,6 @@ TEST(HudLayoutTest, namesPixels)
     EXPECT_EQ(HudLayout::sizeText({640, 7}), u"640 × 7"_s);
     EXPECT_EQ(HudLayout::pixelText({812, 440}, 0xff1e90ff), u"812, 440   #1E90FF"_s);
     EXPECT_EQ(HudLayout::pixelText({0, 0}, 0x00000000), u"0, 0   #000000"_s);
-    EXPECT_EQ(HudLayout::hintText({}),
-        u"Drag to select   •   Click a window   •   Space: whole screen   •   Esc: cancel"_s);
-    EXPECT_EQ(HudLayout::hintText(u"Select the text to copy"_s),
-        u"Select the text to copy   •   "_s + HudLayout::hintText({}));
 }
 
 TEST(PillTest, staysWithinTheViewAndKeepsItsWidth)

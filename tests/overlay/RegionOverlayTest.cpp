@@ -31,7 +31,6 @@ DesktopOptions withPanel()
 using RegionOverlayTest = DesktopTest<>;
 using PanelOverlayTest = DesktopTest<withPanel>;
 using MixedOverlayTest = DesktopTest<oddMonitors<100, 200>>;
-using SharpFirstOverlayTest = DesktopTest<oddMonitors<200, 100>>;
 using FractionOverlayTest = DesktopTest<compositedFractions>;
 
 /// What is on the screen when nothing moves there any more.
@@ -107,8 +106,9 @@ private:
 };
 
 /// Drags over odd pixels, in several directions, on each monitor; and that each is covered exactly.
-void takesExactlyWhatIsDragged(VirtualDesktop& desktop, const std::vector<QRect>& monitors)
+void takesExactlyWhatIsDragged(VirtualDesktop& desktop)
 {
+    const QRect monitors[] = {{0, 0, 1001, 701}, {1001, 50, 680, 671}};
     const auto root = desktop.rootPixels().size();
     desktop.setRootPicture(patternOf(root));
     const QImage screen = settledScreen(desktop);
@@ -140,7 +140,7 @@ void takesExactlyWhatIsDragged(VirtualDesktop& desktop, const std::vector<QRect>
     }
 
     begin();
-    desktop.moveTo(monitors.front().center());
+    desktop.moveTo(monitors[0].center());
     const QImage dark = dimmed(screen);
     for (const QRect& monitor : monitors) {
         const QRect edges[] = {{monitor.topLeft(), QSize(monitor.width() / 3, 3)},
@@ -158,24 +158,14 @@ void takesExactlyWhatIsDragged(VirtualDesktop& desktop, const std::vector<QRect>
 
 } // namespace
 
-TEST_F(RegionOverlayTest, takesExactlyWhatIsDragged)
-{
-    takesExactlyWhatIsDragged(desktop(), {{0, 0, 1280, 800}});
-}
-
 TEST_F(MixedOverlayTest, takesExactlyWhatIsDraggedOnEitherScreen)
 {
-    takesExactlyWhatIsDragged(desktop(), {{0, 0, 1001, 701}, {1001, 50, 680, 671}});
-}
-
-TEST_F(SharpFirstOverlayTest, takesExactlyWhatIsDraggedOnEitherScreen)
-{
-    takesExactlyWhatIsDragged(desktop(), {{0, 0, 1001, 701}, {1001, 50, 680, 671}});
+    takesExactlyWhatIsDragged(desktop());
 }
 
 TEST_F(FractionOverlayTest, takesExactlyWhatIsDraggedOnEitherScreen)
 {
-    takesExactlyWhatIsDragged(desktop(), {{0, 0, 1001, 701}, {1001, 50, 680, 671}});
+    takesExactlyWhatIsDragged(desktop());
 }
 
 TEST_F(MixedOverlayTest, listensToTheKeysOfTheScreenUnderThePointer)

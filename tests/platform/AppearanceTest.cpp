@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/DesktopAppearance.h"
+#include "tests/TestFiles.h"
+#include "tests/desktop/Waiting.h"
 
 #include <gmock/gmock.h>
 
@@ -8,9 +10,6 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusVirtualObject>
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -19,15 +18,6 @@ using namespace Qt::StringLiterals;
 using AppearanceSources::PortalSettings;
 
 namespace {
-
-bool waitFor(const std::function<bool()>& condition)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition() && timer.elapsed() < 15'000)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    return condition();
-}
 
 struct Rgb {
     double red, green, blue;
@@ -87,13 +77,11 @@ protected:
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
         qunsetenv("XDG_CURRENT_DESKTOP");
         qunsetenv("GTK_THEME");
-        QDir(folder.path()).mkdir(u"gtk-3.0"_s);
     }
 
     void write(const QString& name, const QByteArray& content)
     {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        put(folder.filePath(name), content);
     }
 
     inline static std::unique_ptr<QProcess> s_bus;

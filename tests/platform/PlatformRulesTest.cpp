@@ -4,11 +4,8 @@
 #include "platform/KeyCodes.h"
 #include "platform/freedesktop/DesktopEntries.h"
 #include "platform/x11/DisplayScale.h"
+#include "tests/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QPoint>
 #include <QTemporaryDir>
 
@@ -43,20 +40,13 @@ TEST(DesktopEntriesTest, findsTheNameByDeclaredClassThenByFileName)
 {
     const QTemporaryDir root;
     const QString user = root.filePath(u"user"_s), system = root.filePath(u"system"_s);
-    const auto write = [](const QString& path, const QByteArray& content) {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    };
-    write(system + u"/org.example.Viewer.desktop"_s, "[Desktop Entry]\nName=Viewer\n");
-    write(
-        system + u"/kde/tool.desktop"_s, "[Desktop Entry]\nName = Tool\nStartupWMClass=ToolBox\n");
-    write(system + u"/viewer.desktop"_s,
+    put(system + u"/org.example.Viewer.desktop"_s, "[Desktop Entry]\nName=Viewer\n");
+    put(system + u"/kde/tool.desktop"_s, "[Desktop Entry]\nName = Tool\nStartupWMClass=ToolBox\n");
+    put(system + u"/viewer.desktop"_s,
         "# Name=Wrong\n[Other]\nName=Wrong\n[Desktop "
         "Entry]\nName=Declared\nStartupWMClass=VIEWER\n");
-    write(system + u"/broken.desktop"_s, "[Desktop Entry\n=\nName\n");
-    write(user + u"/kde/tool.desktop"_s, "[Desktop Entry]\nName=My tool\nStartupWMClass=toolbox\n");
+    put(system + u"/broken.desktop"_s, "[Desktop Entry\n=\nName\n");
+    put(user + u"/kde/tool.desktop"_s, "[Desktop Entry]\nName=My tool\nStartupWMClass=toolbox\n");
 
     DesktopEntries entries({user, system, root.filePath(u"missing"_s)});
     const auto name = [&](const QString& windowClass, const QString& instance = {}) {

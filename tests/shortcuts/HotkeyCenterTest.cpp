@@ -21,15 +21,9 @@ protected:
             {keyCode, KeyChord::Control, u"?"_s}, [this, keyCode] { m_done.push_back(keyCode); });
     }
 
-    QCoreApplication m_application {m_argumentCount, m_arguments};
     FakeHotkeys m_hotkeys;
     HotkeyCenter m_center {m_hotkeys};
     std::vector<std::uint32_t> m_done; ///< The key codes whose action ran.
-
-private:
-    static inline char m_name[] = "HotkeyCenterTest";
-    static inline char* m_arguments[] = {m_name, nullptr};
-    static inline int m_argumentCount = 1;
 };
 
 } // namespace

@@ -5,24 +5,18 @@
 #include "platform/fake/FakePlatform.h"
 #include "platform/freedesktop/PulseSoundOutput.h"
 #include "skins/Sounds.h"
+#include "tests/TestUser.h"
 
 #include <gmock/gmock.h>
 
 #include <QSet>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class SkinsTest : public testing::Test {
+class SkinsTest : public testing::Test, protected TestUser {
 protected:
-    SkinsTest() { prefs.registerDefaults(); }
-
-    QTemporaryDir folder;
-    Folders folders {
-        .configuration = folder.filePath(u"config"_s), .data = folder.filePath(u"data"_s)};
-    Prefs prefs {folders, Prefs::Watch::Nothing};
     FakeAppearance appearance;
     Skins skins {prefs, appearance};
 };

@@ -3,37 +3,21 @@
 #include "skins/Sounds.h"
 
 #include "platform/fake/FakePlatform.h"
+#include "tests/TestFiles.h"
+#include "tests/TestUser.h"
 
 #include <gmock/gmock.h>
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class SoundsTest : public testing::Test {
+class SoundsTest : public testing::Test, protected TestUser {
 protected:
-    SoundsTest() { prefs.registerDefaults(); }
-
-    void addFile(const QString& path)
-    {
-        const QString file = folder.filePath(path);
-        QDir().mkpath(QFileInfo(file).path());
-        EXPECT_TRUE(QFile(file).open(QIODevice::WriteOnly));
-    }
-    QUrl urlOf(const QString& path) { return QUrl::fromLocalFile(folder.filePath(path)); }
-
-    QTemporaryDir folder;
-    Folders folders {
-        .configuration = folder.filePath(u"config"_s), .data = folder.filePath(u"data"_s)};
-    Prefs prefs {folders, Prefs::Watch::Nothing};
     FakeSoundOutput output;
     SynthSounds synthesised {folders, prefs, output};
-    Sounds sounds {prefs, synthesised, output,
-        {folder.filePath(u"system"_s), folder.filePath(u"missing"_s), folder.filePath(u"user"_s)}};
+    Sounds sounds {
+        prefs, synthesised, output, {path(u"system"_s), path(u"missing"_s), path(u"user"_s)}};
 };
 
 } // namespace
@@ -44,7 +28,7 @@ TEST_F(SoundsTest, listsOwnSoundsFirstThenThoseOfTheDesktop)
              u"system/alpha/stereo/one.two.ogg"_s, u"system/alpha/stereo/Pop.wav"_s,
              u"system/alpha/stereo/notes.txt"_s, u"system/alpha/stereo/deep/er.wav"_s,
              u"system/alpha/surround/no.wav"_s, u"user/mine.M4A"_s, u"user/wav"_s})
-        addFile(path);
+        put(TestUser::path(path), {});
     QStringList names;
     const auto items = sounds.available();
     for (const auto& item : items)
@@ -53,7 +37,7 @@ TEST_F(SoundsTest, listsOwnSoundsFirstThenThoseOfTheDesktop)
         testing::ElementsAreArray(QStringList {u"Screen Capture"_s, u"Chirp"_s, u"Zap"_s, u"Coin"_s,
             u"Sparkle"_s, u"Boom"_s, u"Glass"_s, u"Pop"_s, u"Tink"_s, u"Pop"_s, u"one.two"_s,
             u"two"_s, u"bell"_s, u"mine"_s}));
-    EXPECT_EQ(sounds.url(u"bell"_s), urlOf(u"system/zeta/stereo/bell.oga"_s));
+    EXPECT_EQ(sounds.url(u"bell"_s), QUrl::fromLocalFile(path(u"system/zeta/stereo/bell.oga"_s)));
     EXPECT_EQ(sounds.url(u"Pop"_s), QUrl(u"qrc:/sounds/Pop.wav"_s)); // The first of that name.
 }
 
@@ -74,9 +58,9 @@ TEST_F(SoundsTest, synthesisesNothingBesidesWhatIsPlayed)
     ASSERT_EQ(output.played.size(), 1);
     EXPECT_EQ(output.played[0].file, QUrl(u"qrc:/sounds/system/Screen Capture.wav"_s));
     EXPECT_DOUBLE_EQ(output.played[0].volume, 0.8);
-    EXPECT_FALSE(QFile::exists(folder.filePath(u"data/sounds"_s)));
+    EXPECT_FALSE(QFile::exists(path(u"data/Pixmallow/sounds"_s)));
     sounds.play(u"Coin"_s, 1);
-    EXPECT_EQ(QDir(folder.filePath(u"data/sounds"_s)).entryList(QDir::Files),
+    EXPECT_EQ(QDir(path(u"data/Pixmallow/sounds"_s)).entryList(QDir::Files),
         QStringList(u"coin_v1.wav"_s));
 }
 
@@ -98,7 +82,7 @@ TEST_F(SoundsTest, theShutterObeysThePreferences)
     sounds.play(u"Pop"_s, 1); // Somebody tries it in the settings.
     EXPECT_EQ(output.played.size(), 2);
 
-    Prefs fresh({.configuration = folder.filePath(u"fresh"_s)}, Prefs::Watch::Nothing);
+    Prefs fresh({.configuration = path(u"fresh"_s)}, Prefs::Watch::Nothing);
     fresh.set(Prefs::keys.playSound, true);
     Sounds(fresh, synthesised, output, {}).playShutter();
     ASSERT_EQ(output.played.size(), 3);

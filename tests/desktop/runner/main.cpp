@@ -4,11 +4,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QSocketNotifier>
 
 #include <cstdio>
-#include <sys/signalfd.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -88,35 +85,6 @@ Result<CommandLine> readCommandLine()
     return line;
 }
 
-/// Turns the signals that ask a program to end into the number of the one that came.
-class Signals final {
-public:
-    Signals()
-    {
-        sigset_t set;
-        sigemptyset(&set);
-        for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
-            sigaddset(&set, signal);
-        sigprocmask(SIG_BLOCK, &set, nullptr);
-        m_descriptor = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
-    }
-
-    /// Zero as long as none came.
-    int came()
-    {
-        signalfd_siginfo signal;
-        if (::read(m_descriptor, &signal, sizeof signal) == sizeof signal)
-            m_came = int(signal.ssi_signo);
-        return m_came;
-    }
-
-    int descriptor() const { return m_descriptor; }
-
-private:
-    int m_descriptor = -1;
-    int m_came = 0;
-};
-
 std::vector<std::unique_ptr<Client>> openClients(const VirtualDesktop& desktop)
 {
     std::vector<std::unique_ptr<Client>> clients;
@@ -141,7 +109,7 @@ std::vector<std::unique_ptr<Client>> openClients(const VirtualDesktop& desktop)
     return clients;
 }
 
-int runCommand(const VirtualDesktop& desktop, const QStringList& command, Signals& signalled)
+int runCommand(const VirtualDesktop& desktop, const QStringList& command)
 {
     QProcess process;
     process.setProcessEnvironment(desktop.environment());
@@ -152,16 +120,7 @@ int runCommand(const VirtualDesktop& desktop, const QStringList& command, Signal
     const QString program = desktop.find(command.front());
     if (const auto started = startProcess(process, program, command.sliced(1)); !started)
         return failed(notStarted, started.error().message);
-
-    QSocketNotifier notifier(signalled.descriptor(), QSocketNotifier::Read);
-    QObject::connect(&notifier, &QSocketNotifier::activated, [] { QCoreApplication::exit(); });
-    QObject::connect(&process, &QProcess::finished, [] { QCoreApplication::exit(); });
-    if (process.state() != QProcess::NotRunning)
-        QCoreApplication::exec();
-    const int signal = signalled.came();
-    endProcess(process);
-    if (signal)
-        return 128 + signal;
+    process.waitForFinished(-1);
     return process.exitStatus() == QProcess::CrashExit ? 128 + process.exitCode()
                                                        : process.exitCode();
 }
@@ -170,7 +129,6 @@ int runCommand(const VirtualDesktop& desktop, const QStringList& command, Signal
 
 int main(int count, char** arguments)
 {
-    Signals signalled;
     const QCoreApplication application(count, arguments);
     const auto line = readCommandLine();
     if (!line)
@@ -187,7 +145,5 @@ int main(int count, char** arguments)
     std::vector<std::unique_ptr<Client>> clients;
     if (line->withClients)
         clients = openClients(**desktop);
-    if (const int signal = signalled.came())
-        return 128 + signal;
-    return runCommand(**desktop, line->command, signalled);
+    return runCommand(**desktop, line->command);
 }
