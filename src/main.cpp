@@ -43,6 +43,9 @@ int showOther(const Folders& folders)
     return answer ? 0 : fail(answer.error());
 }
 
+/// By the user, who is to see something, or for a request of another program.
+enum class Start { Seen, Background };
+
 /// Writes come first: a capture that runs is taken to its end.
 void finishCapture(const AppState& state)
 {
@@ -51,7 +54,7 @@ void finishCapture(const AppState& state)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
+int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, Start start)
 {
     auto platform = makeDesktopPlatform();
     if (!platform)
@@ -70,6 +73,9 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server)
     TrayItem tray(state, prefs);
     QObject::connect(&state, &AppState::panelRequested, &tray, &TrayItem::showMenu);
     rooms.effects().setTrayIcon([&tray] { return tray.position(); });
+
+    if (start == Start::Seen)
+        rooms.welcome();
 
     const TerminationSignals signals;
     QObject::connect(&signals, &TerminationSignals::received, qApp, &QCoreApplication::quit);
@@ -92,18 +98,20 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(u"pixmallow"_s);
     QGuiApplication::setApplicationDisplayName(u"Pixmallow"_s);
     QGuiApplication::setDesktopFileName(u"pixmallow"_s);
+    QGuiApplication::setWindowIcon(QIcon(u":/pixmallow.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false);
 
     const auto folders = Folders::ofUser();
     const auto arguments = QCoreApplication::arguments();
+    // In the background, for somebody's request, it does not matter which process is there.
+    const auto start = arguments.contains(u"--background"_s) ? Start::Background : Start::Seen;
     if (arguments.contains(u"--replace"_s))
         if (const auto gone = askResidentToQuitAndWait(folders, replacement); !gone)
             return fail(gone.error());
     auto server = ControlServer::listen(folders);
     if (server)
-        return runResident(folders, *std::move(server));
+        return runResident(folders, *std::move(server), start);
     if (server.error().kind != Error::Kind::Exists)
         return fail(server.error());
-    // Started in the background, for somebody's request, it does not matter which one is there.
-    return arguments.contains(u"--background"_s) ? 0 : showOther(folders);
+    return start == Start::Background ? 0 : showOther(folders);
 }

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/Rooms.h"
 
+#include "shortcuts/KeyCombo.h"
+
+#include <QSystemTrayIcon>
+
 using namespace Qt::StringLiterals;
 
 Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
@@ -11,13 +15,16 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_fun(folders, prefs)
     , m_skins(prefs, *platform.appearance)
     , m_themes(m_skins, *platform.appearance)
+    , m_surroundings {m_themes, *platform.surfaces}
     , m_synthesisedSounds(folders, prefs, *platform.sound)
     , m_sounds(prefs, m_synthesisedSounds, *platform.sound)
     , m_overlayPool(*platform.surfaces)
-    , m_operations(platform, prefs, folders)
-    , m_pins({m_themes, *platform.surfaces}, actions())
-    , m_preview({m_themes, *platform.surfaces}, prefs, m_fun, actions(), u"Show in Folder"_s)
+    , m_operations({platform, prefs, folders, m_themes, m_fun})
+    , m_pins(m_surroundings, actions())
+    , m_preview(m_surroundings, prefs, m_fun, actions(), platform.words.showInFolder)
     , m_effects({*platform.displays, *platform.surfaces, m_themes, prefs})
+    , m_permission({m_themes, *platform.capture, *platform.workspace, platform.words,
+          [this] { return regionShortcut(); }, &QSystemTrayIcon::isSystemTrayAvailable})
 {
     m_history.install();
     m_fun.install();
@@ -25,6 +32,9 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     m_synthesisedSounds.install();
     m_sounds.install();
     m_skins.apply();
+    QObject::connect(&prefs, &Prefs::saveFailed, &m_toast, [this](const QString& message) {
+        m_toast.show({u"Preferences not saved"_s, message, u"exclamationmark.triangle.fill"_s});
+    });
 }
 
 ShotActions Rooms::actions()
@@ -37,6 +47,9 @@ ShotActions Rooms::actions()
 CaptureStages Rooms::stages()
 {
     CaptureStages stages;
+    stages.showPermissionWindow = [this] { m_permission.show(); };
+    stages.showToast = [this](const ToastMessage& message) { m_toast.show(message); };
+    stages.countDown = [this](int seconds) { return m_countdown.run(seconds); };
     stages.selectRegion = [this](const RegionQuestion& question) { return selectRegion(question); };
     stages.playShutter = [this] { m_sounds.playShutter(); };
     stages.playEffect = [this](QRectF area, const QImage& image) {
@@ -52,6 +65,29 @@ CaptureStages Rooms::stages()
         m_preview.show(capture, info);
     };
     return stages;
+}
+
+void Rooms::welcome()
+{
+    if (m_prefs.get(Prefs::keys.welcomed))
+        return;
+    m_prefs.set(Prefs::keys.welcomed, true);
+    m_permission.show();
+}
+
+void Rooms::cancelQuestions()
+{
+    m_overlay.reset();
+    m_countdown.stop();
+}
+
+QString Rooms::regionShortcut() const
+{
+    const auto combo = KeyCombo::fromText(m_prefs.get(Prefs::keys.hkRegion));
+    if (!combo)
+        return {};
+    return m_platform.words.shortcuts == PlatformWords::Shortcuts::Spelled ? combo->spelled()
+                                                                           : combo->display();
 }
 
 Pending<RegionResult> Rooms::selectRegion(const RegionQuestion& question)

@@ -4,6 +4,9 @@
 
 #include "app/CaptureStages.h"
 #include "app/ShotOperations.h"
+#include "capture/Countdown.h"
+#include "capture/PermissionWindow.h"
+#include "capture/Toast.h"
 #include "fun/CaptureFx.h"
 #include "fun/Fun.h"
 #include "history/HistoryStore.h"
@@ -13,6 +16,7 @@
 #include "preview/PreviewPanel.h"
 #include "skins/Skins.h"
 #include "skins/Sounds.h"
+#include "widgets/ApplicationLook.h"
 
 /// The rooms along a capture's way, each made once, and how the coordinator reaches them.
 class Rooms final {
@@ -24,19 +28,25 @@ public:
     CaptureFx& effects() { return m_effects; }
     Pins& pins() { return m_pins; }
 
+    /// Shows a newcomer, once, where the program is and how to begin.
+    void welcome();
+
     /// Takes back what the user is being asked; whoever waits for it hears Cancelled.
-    void cancelQuestions() { m_overlay.reset(); }
+    void cancelQuestions();
 
 private:
     ShotActions actions();
     Pending<RegionResult> selectRegion(const RegionQuestion& question);
+    QString regionShortcut() const; ///< As sentences call it; may be empty.
 
     DesktopPlatform& m_platform;
-    const Prefs& m_prefs;
+    Prefs& m_prefs;
     HistoryStore m_history; ///< Before all that makes the data folder, which it may have to move.
     Fun m_fun;
     Skins m_skins;
     Themes m_themes;
+    ApplicationLook m_look {m_themes};
+    const Surroundings m_surroundings;
     SynthSounds m_synthesisedSounds;
     Sounds m_sounds;
     OverlayPool m_overlayPool;
@@ -45,4 +55,7 @@ private:
     Pins m_pins;
     PreviewPanel m_preview;
     CaptureFx m_effects;
+    Toast m_toast {m_surroundings};
+    Countdown m_countdown {m_surroundings};
+    PermissionWindow m_permission;
 };

@@ -4,6 +4,7 @@
 
 #include "base/Worker.h"
 #include "capture/Files.h"
+#include "widgets/ShareMenu.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -29,11 +30,8 @@ void ask(QFileDialog& dialog, const Shot& shot, ShotActions::Told::Answer answer
 
 } // namespace
 
-ShotOperations::ShotOperations(
-    DesktopPlatform& platform, const Prefs& prefs, const Folders& folders)
-    : m_platform(platform)
-    , m_prefs(prefs)
-    , m_folders(folders)
+ShotOperations::ShotOperations(Means means)
+    : m_means(std::move(means))
 {
 }
 
@@ -42,9 +40,10 @@ ShotActions ShotOperations::actions()
     ShotActions actions;
     actions.copy = [this](const FinishedCapture& capture) { return copy(capture); };
     actions.saveAs = [this](const FinishedCapture& capture, QWidget*) { return saveAs(capture); };
-    actions.reveal = [this](const FinishedCapture& capture) {
-        Files::reveal(*m_platform.workspace, capture.path, m_prefs.saveFolder());
+    actions.share = [this](const FinishedCapture& capture, QWidget* button) {
+        return share(capture, *button);
     };
+    actions.reveal = [this](const FinishedCapture& capture) { reveal(capture); };
     actions.file = [this](const FinishedCapture& capture) { return file(capture); };
     return actions;
 }
@@ -56,7 +55,7 @@ ShotActions::Told ShotOperations::copy(const FinishedCapture& capture)
         = [shot = capture.shot] { return Files::encode(shot.image, ImageType::Png, shot.scale); };
     const auto shared = std::make_shared<ShotActions::Told::Answer>(std::move(answer));
     runOnWorker(encode).then([this, shot = capture.shot, shared](const Result<QByteArray>& png) {
-        Files::copy(*m_platform.clipboard, shot.image, shot.scale, png ? *png : QByteArray());
+        Files::copy(*m_means.platform.clipboard, shot.image, shot.scale, png ? *png : QByteArray());
         (*shared)(u"Copied to clipboard"_s);
     });
     return std::move(told);
@@ -65,7 +64,7 @@ ShotActions::Told ShotOperations::copy(const FinishedCapture& capture)
 ShotActions::Told ShotOperations::saveAs(const FinishedCapture& capture)
 {
     auto [told, answer] = ShotActions::Told::ask();
-    const QString folder = m_prefs.saveFolder();
+    const QString folder = m_means.prefs.saveFolder();
     Files::ensureFolder(folder);
     auto* dialog = new QFileDialog;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -80,10 +79,38 @@ ShotActions::Told ShotOperations::saveAs(const FinishedCapture& capture)
     return std::move(told);
 }
 
+ShotActions::Told ShotOperations::share(const FinishedCapture& capture, const QWidget& button)
+{
+    auto [told, answer] = ShotActions::Told::ask();
+    const auto fileToShare = [this, capture]() -> Result<QString> {
+        if (auto path = file(capture))
+            return *std::move(path);
+        return Error::failed(u"The picture could not be written to a file."_s);
+    };
+    auto& platform = m_means.platform;
+    auto* menu = new ShareMenu(
+        {m_means.themes, *platform.workspace, *platform.clipboard, platform.words}, fileToShare);
+    QObject::connect(menu, &ShareMenu::shared, [this] { m_means.fun.record(FunDeed::Shared); });
+    const auto shared = std::make_shared<ShotActions::Told::Answer>(std::move(answer));
+    QObject::connect(menu, &ShareMenu::told, menu, [menu, shared](const QString& status) {
+        menu->deleteLater();
+        (*shared)(status.isEmpty() ? Result<QString>(Error::cancelled()) : status);
+    });
+    menu->openBelow(button);
+    return std::move(told);
+}
+
+void ShotOperations::reveal(const FinishedCapture& capture)
+{
+    // That the file manager does not come is seen by itself.
+    std::ignore = Files::reveal(
+        *m_means.platform.workspace, capture.path, m_means.prefs.saveFolder());
+}
+
 std::optional<QString> ShotOperations::file(const FinishedCapture& capture) const
 {
     if (QFileInfo::exists(capture.path))
         return capture.path;
     return Files::tempPNG(
-        capture.shot.image, capture.shot.scale, m_folders, QDateTime::currentDateTime());
+        capture.shot.image, capture.shot.scale, m_means.folders, QDateTime::currentDateTime());
 }

@@ -94,6 +94,8 @@ struct PrefKeys final : PrefTable {
     // The order above is settled; whatever comes later stands below this line.
     /// Whether shortcuts also work while an open menu has the keyboard.
     PrefKey<bool> captureOpenMenus {*this, "captureOpenMenus", false, WhenAbsent};
+    /// Whether the user has been shown how to begin.
+    PrefKey<bool> welcomed {*this, "welcomed", false, WhenAbsent};
 
     /// The shortcut of a capture kind, given as its text such as "region"; null for any other text.
     const PrefKey<QString>* hotkey(QStringView kind) const;

@@ -116,6 +116,7 @@ void PermissionView::showEvent(QShowEvent* event)
 {
     refresh();
     m_timer.start();
+    setFocus(); // Return and Esc do the usual; a button is marked when somebody walks there.
     QWidget::showEvent(event);
 }
 

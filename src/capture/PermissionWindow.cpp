@@ -39,7 +39,7 @@ void PermissionWindow::make()
 {
     m_view = std::make_unique<PermissionView>(m_sources);
     m_view->setWindowTitle(u"Welcome to Pixmallow"_s);
-    m_view->setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+    m_view->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
         | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     m_view->setFixedSize(contentSize.expandedTo(m_view->minimumSizeHint())); // Large letters.
     const auto screen = PanelPlacement::under(QCursor::pos(), PanelPlacement::screens());

@@ -4,24 +4,10 @@
 
 #include "widgets/Icons.h"
 
-#include <QCoro/QCoroTask>
 #include <QPointer>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Passes an answer on, if there is still somebody who wants it.
-QCoro::Task<> await(
-    Pending<void> pending, QPointer<QObject> asker, std::function<void(Result<void>)> then)
-{
-    const auto result = co_await pending;
-    if (asker)
-        then(result);
-}
-
-} // namespace
 
 ShareMenu::ShareMenu(const Means& means, File file, QWidget* parent)
     : QMenu(parent)
@@ -40,12 +26,15 @@ ShareMenu::ShareMenu(const Means& means, File file, QWidget* parent)
         });
     add(u"folder"_s, m_means.words.showInFolder, {}, Counts::AsLook,
         [this](const QString& path) { return m_means.workspace.reveal(path); });
+    // The toolkit hides a menu before it tells what was chosen.
+    connect(this, &QMenu::aboutToHide, this, &ShareMenu::tellIfNothingChosen, Qt::QueuedConnection);
     connect(&m_means.themes, &Themes::changed, this, &ShareMenu::adoptTheme);
     adoptTheme();
 }
 
 void ShareMenu::openBelow(const QWidget& control)
 {
+    m_isChosen = false;
     const QRect at(control.mapToGlobal(QPoint()), control.size());
     const QRect screen = control.screen()->availableGeometry();
     const int height = sizeHint().height();
@@ -60,19 +49,27 @@ void ShareMenu::add(const QString& symbol, const QString& title, const QString& 
     auto* item = addAction(title);
     item->setData(symbol);
     connect(item, &QAction::triggered, this, [this, status, counts, action] {
+        m_isChosen = true;
         const auto file = m_file();
         if (!file) {
             Q_EMIT told(file.error().message);
             return;
         }
-        await(action(*file), this, [this, status, counts](const Result<void>& result) {
+        const QPointer<ShareMenu> menu(this);
+        action(*file).then([menu, status, counts](const Result<void>& result) {
+            if (!menu)
+                return;
             if (result && counts == Counts::AsShared)
-                Q_EMIT shared();
-            const QString text = result ? status : result.error().message;
-            if (!text.isEmpty()) // As when the user cancelled.
-                Q_EMIT told(text);
+                Q_EMIT menu->shared();
+            Q_EMIT menu->told(result ? status : result.error().message);
         });
     });
+}
+
+void ShareMenu::tellIfNothingChosen()
+{
+    if (!m_isChosen)
+        Q_EMIT told({});
 }
 
 void ShareMenu::adoptTheme()

@@ -34,7 +34,8 @@ public:
     void openBelow(const QWidget& control);
 
 Q_SIGNALS:
-    /// What became of it, for a status line: also when it failed. Nothing when the user cancelled.
+    /// What became of it, for a status line: also when it failed. Empty when the user cancelled or
+    /// chose nothing. Once for each time it is opened.
     void told(const QString& status);
     void shared(); ///< It went somewhere. To look at the file where it lies does not count.
 
@@ -45,7 +46,9 @@ private:
     void add(const QString& symbol, const QString& title, const QString& status, Counts counts,
         const Action& action);
     void adoptTheme();
+    void tellIfNothingChosen();
 
     const Means m_means;
     const File m_file;
+    bool m_isChosen = false;
 };

@@ -63,11 +63,21 @@ TEST_F(ShareMenuTest, tellsFailuresAndIsSilentWhenTheUserCancels)
 {
     platform.fakeWorkspace().result = Error::cancelled();
     choose(u"Mail…"_s);
-    EXPECT_TRUE(told.isEmpty());
+    EXPECT_EQ(told, QStringList {u""_s});
+    told.clear();
     platform.fakeWorkspace().result = Error::failed(u"No mail program."_s);
     choose(u"Mail…"_s);
     file = Error::failed(u"The disk is full."_s);
     choose(u"Copy File"_s);
     EXPECT_EQ(told, (QStringList {u"No mail program."_s, u"The disk is full."_s}));
     EXPECT_EQ(shared, 0);
+}
+
+TEST_F(ShareMenuTest, tellsThatItWasClosed)
+{
+    QWidget control;
+    menu.openBelow(control);
+    menu.close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, QStringList {u""_s});
 }
