@@ -98,7 +98,10 @@ void X11SurfaceTraits::takeFocus(QWindow& window)
 void X11SurfaceTraits::returnFocus()
 {
     const xcb_window_t before = std::exchange(m_focusBefore, XCB_WINDOW_NONE);
-    if (before <= lastSpecialFocus || !isOurs(m_xcb, focusOf(m_xcb)))
+    const xcb_window_t now = focusOf(m_xcb);
+    // When a window that has the focus goes, nobody has it.
+    const bool taken = now > lastSpecialFocus && !isOurs(m_xcb, now);
+    if (before <= lastSpecialFocus || taken)
         return;
     // Should it be gone by now, nothing happens.
     xcb_set_input_focus(m_xcb, XCB_INPUT_FOCUS_PARENT, before, XCB_CURRENT_TIME);
