@@ -99,6 +99,8 @@ void PinWindow::edit()
 
 void PinWindow::closePin()
 {
+    if (std::exchange(m_hasFocus, false))
+        m_surroundings.surfaces.returnFocus(); // Before the keyboard is nobody's for a moment.
     hide();
     Q_EMIT closed();
 }
