@@ -13,10 +13,11 @@ struct PngEngine;
 using ByteSink = std::function<Result<void>(std::span<const std::uint8_t>)>;
 
 /// Streams a picture as a PNG file into a sink with about 0.7 megabytes of state, up to 4 more for
-/// one with a palette, and no full-size intermediate. Colour type, filter and palette are chosen for the smallest file that costs
-/// little: RGB when the picture is opaque, a palette when it has at most 256 colours. The
-/// resolution, scale × 72 dots per inch with scale in pixels per point, is written as a pHYs chunk.
-/// Fails only when the source or the sink does, at once and with their reason.
+/// one with a palette, and no full-size intermediate. Colour type, filter and palette are chosen
+/// for the smallest file that costs little: RGB when the picture is opaque, a palette when it has
+/// at most 256 colours. The resolution, scale × 72 dots per inch with scale in pixels per point, is
+/// written as a pHYs chunk. Fails only when the source or the sink does, at once and with their
+/// reason.
 Result<void> writePng(RowSource& source, double scale, const ByteSink& sink);
 
 /// The same, done by a given engine instead of the fastest one.
