@@ -103,8 +103,8 @@ ShotActions::Told ShotOperations::share(const FinishedCapture& capture, const QW
 void ShotOperations::reveal(const FinishedCapture& capture)
 {
     // That the file manager does not come is seen by itself.
-    std::ignore = Files::reveal(
-        *m_means.platform.workspace, capture.path, m_means.prefs.saveFolder());
+    std::ignore
+        = Files::reveal(*m_means.platform.workspace, capture.path, m_means.prefs.saveFolder());
 }
 
 std::optional<QString> ShotOperations::file(const FinishedCapture& capture) const

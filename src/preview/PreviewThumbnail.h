@@ -29,6 +29,7 @@ public:
     static QSizeF fitted(QSize pixels);
 
     QSize sizeHint() const override;
+    QRegion borderRegion() const; ///< What a frame of the border paints.
     QPixmap pixmap() const { return m_picture; } ///< As it is shown.
 
 Q_SIGNALS:
@@ -46,7 +47,6 @@ protected:
 
 private:
     QRectF frame() const; ///< Of the picture.
-    QRegion borderRegion() const;
     void prepare();
 
     const Themes& m_themes;

@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "capture/CountdownView.h"
+#include "capture/PermissionView.h"
+#include "capture/ToastView.h"
 #include "preview/PreviewView.h"
 #include "tests/gallery/Gallery.h"
 #include "widgets/GlassButton.h"
@@ -72,6 +75,23 @@ std::unique_ptr<QWidget> letters(GalleryWorld& world)
     return widget;
 }
 
+Scene toast(const QString& name, const ToastMessage& message)
+{
+    return {name, Scene::Ground::Card, [message](GalleryWorld& world) {
+                return std::make_unique<ToastView>(world.themes, message);
+            }};
+}
+
+std::unique_ptr<QWidget> permission(GalleryWorld& world, bool granted)
+{
+    world.platform.fakeCapture().isPermitted = granted;
+    auto view = std::make_unique<PermissionView>(
+        PermissionView::Sources {world.themes, *world.platform.capture, *world.platform.workspace,
+            world.platform.words, [] { return u"Ctrl+Shift+1"_s; }, [] { return true; }});
+    world.platform.fakeCapture().isPermitted = true;
+    return view;
+}
+
 } // namespace
 
 const QList<Scene>& scenes()
@@ -88,6 +108,17 @@ const QList<Scene>& scenes()
                 return preview(
                     world, {1600, 240}, u"spin"_s, {u"🐣"_s, u"certified screenshot moment"_s, 25});
             }},
+        toast(u"toast"_s, {u"Text copied — 3 lines"_s, {}, u"text.viewfinder"_s}),
+        toast(u"toast-failed"_s,
+            {u"Capture failed"_s,
+                u"The window is not on screen: it is minimised or on another desktop."_s,
+                u"exclamationmark.triangle.fill"_s}),
+        {u"countdown"_s, Scene::Ground::Card,
+            [](GalleryWorld& world) { return std::make_unique<CountdownView>(world.themes, 3); }},
+        {u"welcome"_s, Scene::Ground::None,
+            [](GalleryWorld& world) { return permission(world, true); }},
+        {u"permission"_s, Scene::Ground::None,
+            [](GalleryWorld& world) { return permission(world, false); }},
     };
     return list;
 }

@@ -38,14 +38,12 @@ protected:
         Base::SetUp();
         if (this->IsSkipped())
             return;
-        QImage picture(Base::desktop().rootPixels().size(), QImage::Format_RGB32);
-        for (int y = 0; y < picture.height(); ++y)
-            for (int x = 0; x < picture.width(); ++x)
-                picture.setPixel(x, y, patternColour(x, y, 3));
+        const QImage picture
+            = patternOf(Base::desktop().rootPixels().size()).convertToFormat(QImage::Format_RGB32);
         Base::desktop().setRootPicture(picture);
         ASSERT_TRUE(waitFor([&] { return Base::desktop().rootPixels() == picture; }));
         Base::desktop().moveTo({5, 5});
-        prefer(R"({"delaySeconds": 2})");
+        prefer(R"({"delaySeconds":2,"afterCapture":"none","captureAnimation":"none"})");
     }
 
     void TearDown() override
