@@ -274,7 +274,7 @@ void AppState::present(const FinishedCapture& finished, const QStringList& notes
 
 QCoro::Task<> AppState::copyText(Shot shot)
 {
-    const auto recognised = co_await m_stages.recogniseText(shot.image);
+    const auto recognised = co_await m_stages.recogniseText(shot);
     if (!recognised) {
         if (!recognised.error().isCancelled())
             fail({u"Couldn't read text"_s, recognised.error().message, failureSymbol});

@@ -4,6 +4,7 @@
 
 #include "base/Pending.h"
 #include "capture/FinishedCapture.h"
+#include "capture/OCR.h"
 #include "capture/Region.h"
 #include "capture/ToastMessage.h"
 
@@ -22,7 +23,7 @@ struct CaptureStages {
     std::function<void()> showPermissionWindow;
     std::function<Pending<RegionResult>(RegionQuestion)> selectRegion;
     std::function<Pending<void>(int seconds)> countDown; ///< Cancelled by the user.
-    std::function<Pending<RecognisedText>(QImage)> recogniseText;
+    std::function<Pending<OCR::Result>(Shot)> recogniseText;
 
     std::function<void()> playShutter;
     std::function<void(QRectF area, QImage)> playEffect; ///< Over an area in global points, y up.

@@ -25,6 +25,7 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_effects({*platform.displays, *platform.surfaces, m_themes, prefs})
     , m_permission({m_themes, *platform.capture, *platform.workspace, platform.words,
           [this] { return regionShortcut(); }, &QSystemTrayIcon::isSystemTrayAvailable})
+    , m_ocr(platform.textRecognizer)
 {
     m_history.install();
     m_fun.install();
@@ -51,6 +52,8 @@ CaptureStages Rooms::stages()
     stages.showToast = [this](const ToastMessage& message) { m_toast.show(message); };
     stages.countDown = [this](int seconds) { return m_countdown.run(seconds); };
     stages.selectRegion = [this](const RegionQuestion& question) { return selectRegion(question); };
+    stages.recogniseText
+        = [this](const Shot& shot) { return m_ocr.recognize(shot.image, shot.scale); };
     stages.playShutter = [this] { m_sounds.playShutter(); };
     stages.playEffect = [this](QRectF area, const QImage& image) {
         m_effects.play(m_effects.current(), area, image);
@@ -79,6 +82,7 @@ void Rooms::cancelQuestions()
 {
     m_overlay.reset();
     m_countdown.stop();
+    m_ocr.cancel();
 }
 
 QString Rooms::regionShortcut() const

@@ -5,6 +5,7 @@
 #include "app/CaptureStages.h"
 #include "app/ShotOperations.h"
 #include "capture/Countdown.h"
+#include "capture/OCR.h"
 #include "capture/PermissionWindow.h"
 #include "capture/Toast.h"
 #include "fun/CaptureFx.h"
@@ -31,7 +32,8 @@ public:
     /// Shows a newcomer, once, where the program is and how to begin.
     void welcome();
 
-    /// Takes back what the user is being asked; whoever waits for it hears Cancelled.
+    /// Takes back what the user is being asked and what is being read; whoever waits for it hears
+    /// Cancelled.
     void cancelQuestions();
 
 private:
@@ -58,4 +60,5 @@ private:
     Toast m_toast {m_surroundings};
     Countdown m_countdown {m_surroundings};
     PermissionWindow m_permission;
+    OCR m_ocr;
 };

@@ -5,12 +5,15 @@
 #include "platform/freedesktop/DesktopAppearance.h"
 #include "platform/freedesktop/DesktopWords.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
+#include "platform/freedesktop/ModuleTextRecognizer.h"
 #include "platform/freedesktop/PulseSoundOutput.h"
 #include "platform/freedesktop/ToolkitClipboard.h"
 #include "platform/x11/OwnWindowMarker.h"
 #include "platform/x11/X11ActiveApplication.h"
 #include "platform/x11/X11Hotkeys.h"
 #include "platform/x11/X11SurfaceTraits.h"
+
+#include <QLocale>
 
 Result<DesktopPlatform> makeDesktopPlatform()
 {
@@ -37,6 +40,12 @@ Result<DesktopPlatform> makeDesktopPlatform()
         = std::make_unique<DesktopAppearance>(DesktopAppearance::TextScale::InScreenScale);
     platform.sound = std::make_unique<PulseSoundOutput>();
     platform.words = desktopWords();
+    platform.textRecognizer = makeTextRecognizer();
     platform.ownWindows = std::make_unique<OwnWindowMarker>();
     return platform;
+}
+
+std::shared_ptr<TextRecognizer> makeTextRecognizer()
+{
+    return std::make_shared<ModuleTextRecognizer>(QLocale::system().uiLanguages());
 }

@@ -10,6 +10,7 @@
 #include "platform/PlatformWords.h"
 #include "platform/SoundOutput.h"
 #include "platform/SurfaceTraits.h"
+#include "platform/TextRecognizer.h"
 #include "platform/Workspace.h"
 
 /// All seams to the operating system, for the resident program.
@@ -22,8 +23,12 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<Appearance> appearance;
     std::unique_ptr<SoundOutput> sound;
     PlatformWords words;
+    std::shared_ptr<TextRecognizer> textRecognizer; ///< Shared with the thread that reads.
     std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
 };
 
 /// Needs a QGuiApplication. Fails with a sentence for the user.
 Result<DesktopPlatform> makeDesktopPlatform();
+
+/// For the languages of the user. Needs no desktop.
+std::shared_ptr<TextRecognizer> makeTextRecognizer();

@@ -298,14 +298,14 @@ TEST_F(AppStateTest, cutsTheSelectedRegionOut)
 
 TEST_F(AppStateTest, copiesRecognisedText)
 {
-    Result<RecognisedText> recognised = RecognisedText {u"one\ntwo\nthree"_s, 3};
+    Result<OCR::Result> recognised = OCR::Result {u"one\ntwo\nthree"_s, 3};
     QString purpose;
     stages.selectRegion = [&](const RegionQuestion& question) {
         purpose = question.purpose;
         return Pending<RegionResult>::answered(RegionResult {0, QRectF(0, 0, 30, 20)});
     };
     stages.recogniseText
-        = [&](const QImage&) { return Pending<RecognisedText>::answered(recognised); };
+        = [&](const Shot&) { return Pending<OCR::Result>::answered(recognised); };
     prefs.set(Prefs::keys.includeCursor, true);
     const auto report = capture(CaptureKind::Text);
     EXPECT_EQ(purpose, u"Select the text to copy"_s);
@@ -316,7 +316,7 @@ TEST_F(AppStateTest, copiesRecognisedText)
     EXPECT_FALSE(state().last()) << "a text capture is never the last one";
     EXPECT_TRUE(saved().isEmpty());
 
-    recognised = RecognisedText {};
+    recognised = OCR::Result {};
     EXPECT_EQ(capture(CaptureKind::Text).outcome, Outcome::Failed);
     recognised = Error::failed(u"No language data."_s);
     capture(CaptureKind::Text);

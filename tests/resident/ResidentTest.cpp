@@ -4,6 +4,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 
@@ -29,6 +32,54 @@ QByteArray contentOf(const QString& path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+
+/// A terminal with text on the screen, and the whole screen selected for a text capture.
+class TextResidentTest : public ResidentDesktop<plainDesktop> {
+protected:
+    void SetUp() override
+    {
+        ResidentDesktop::SetUp();
+        if (!desktop().find(u"xterm"_s).startsWith(u'/'))
+            GTEST_SKIP() << "xterm is not installed; this test needs text on the screen";
+        if (!QFile::exists(QCoreApplication::applicationDirPath() + u"/libpixmallow-text.so"_s))
+            GTEST_SKIP() << "This was built without text recognition.";
+        auto started = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
+        ASSERT_TRUE(started);
+        resident = *std::move(started);
+        const QString folder = desktop().environment().value(u"XDG_RUNTIME_DIR"_s);
+        ASSERT_TRUE(waitFor([&] { return QFile::exists(folder + u"/pixmallow/control"_s); }));
+    }
+
+    void showText(const QString& command, const QString& size)
+    {
+        const QImage before = desktop().rootPixels();
+        auto started = desktop().launch(u"xterm"_s,
+            {u"-fa"_s, u"DejaVu Sans Mono"_s, u"-fs"_s, size, u"-geometry"_s, u"120x40+150+60"_s,
+                u"-e"_s, u"sh"_s, u"-c"_s, command + u"; echo END; sleep 100"_s});
+        ASSERT_TRUE(started);
+        terminal = *std::move(started);
+        // Painted once nothing changes any more.
+        QImage last = before;
+        ASSERT_TRUE(waitFor([&] {
+            const QImage now = desktop().rootPixels();
+            return equal(std::exchange(last, now), now) && !equal(now, before);
+        }));
+    }
+
+    std::unique_ptr<Client> captureText()
+    {
+        const QRect corner(0, 0, 4, 4); // Where there is no window.
+        const QImage before = desktop().rootPixels(corner);
+        auto asking
+            = desktop().launch(u"pixmallow"_s, {u"capture"_s, u"text"_s, u"--wait"_s, u"--json"_s});
+        EXPECT_TRUE(asking);
+        EXPECT_TRUE(waitFor([&] { return !equal(desktop().rootPixels(corner), before); }));
+        desktop().key("space");
+        return *std::move(asking);
+    }
+
+    std::unique_ptr<Client> resident, terminal;
+};
 
 } // namespace
 
@@ -135,15 +186,45 @@ TEST_F(ResidentTest, capturesTheWindowLastWorkedIn)
     EXPECT_TRUE(takes(u"Painter"_s));
 }
 
-TEST_F(ResidentTest, refusesWhatIsNotAvailableAndWhatIsTooMuch)
+TEST_F(ResidentTest, refusesWhatThereIsNotAndWhatIsTooMuch)
 {
     EXPECT_EQ(pixmallow({u"capture"_s, u"door"_s}).exitCode, 64);
-    const auto text = pixmallow({u"capture"_s, u"text"_s, u"--wait"_s});
-    EXPECT_EQ(text.exitCode, 2);
-    EXPECT_TRUE(text.errors.contains("not available")) << text.errors.toStdString();
     EXPECT_EQ(pixmallow({u"capture"_s, u"screen"_s}).exitCode, 0) << "accepted";
     EXPECT_EQ(pixmallow({u"capture"_s, u"screen"_s, u"--wait"_s}).exitCode, 3) << "busy";
     EXPECT_TRUE(waitFor([&] { return pixmallow({u"capture"_s, u"screen"_s}).exitCode == 0; }));
+}
+
+TEST_F(TextResidentTest, copiesTheTextOfTheSelection)
+{
+    showText(u"printf 'The quick brown fox\\njumps over the lazy dog\\n'"_s, u"14"_s);
+    const auto asking = captureText();
+    ASSERT_TRUE(asking->waitForEnd());
+    const auto report = QJsonDocument::fromJson(asking->output()).object();
+    EXPECT_EQ(asking->exitCode(), 0) << asking->errors().toStdString();
+    const QString text = report[u"text"_s].toString();
+    EXPECT_TRUE(text.contains(u"The quick brown fox\njumps over the lazy dog"_s))
+        << text.toStdString();
+    EXPECT_EQ(clipboard(u"UTF8_STRING"_s), text.toUtf8());
+    EXPECT_TRUE(saved().isEmpty());
+    const QString stats = desktop().home() + u"/.local/share/Pixmallow/stats.json"_s;
+    EXPECT_TRUE(
+        waitFor([&] { return QJsonDocument::fromJson(contentOf(stats))[u"texts"_s] == 1; }));
+}
+
+TEST_F(TextResidentTest, endsAtOnceWhileItReads)
+{
+    showText(u"yes 'some text that takes its time to read' | head -300 | fmt -w 150"_s, u"7"_s);
+    const auto asking = captureText();
+    const QString maps = u"/proc/%1/maps"_s.arg(resident->pid());
+    ASSERT_TRUE(waitFor([&] { return contentOf(maps).contains("libtesseract"); }));
+    QElapsedTimer timer;
+    timer.start();
+    pixmallow({u"quit"_s});
+    EXPECT_TRUE(resident->waitForEnd());
+    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_EQ(resident->exitCode(), 0);
+    ASSERT_TRUE(asking->waitForEnd());
+    EXPECT_EQ(asking->exitCode(), 1);
 }
 
 TEST_F(ResidentTest, runsOnceHoweverOftenItIsStarted)
