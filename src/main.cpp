@@ -5,6 +5,7 @@
 #include "app/PinFiles.h"
 #include "app/Rooms.h"
 #include "app/TerminationSignals.h"
+#include "app/TextCommand.h"
 #include "base/ControlClient.h"
 #include "capture/Files.h"
 #include "ui/TrayItem.h"
@@ -13,6 +14,7 @@
 #include <QDeadlineTimer>
 
 #include <cstdio>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -94,8 +96,12 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"pixmallow"_s);
+    if (argc > 1 && std::strcmp(argv[1], "--text") == 0) {
+        const QCoreApplication application(argc, argv);
+        return runTextCommand(QCoreApplication::arguments().mid(2));
+    }
+    QApplication application(argc, argv);
     QGuiApplication::setApplicationDisplayName(u"Pixmallow"_s);
     QGuiApplication::setDesktopFileName(u"pixmallow"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/pixmallow.svg"_s));

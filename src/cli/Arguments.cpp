@@ -101,6 +101,13 @@ Result<Request> pin(const QCommandLineParser& parser)
     return Request(PinRequest {files});
 }
 
+Result<Request> text(const QCommandLineParser& parser)
+{
+    if (parser.positionalArguments().isEmpty())
+        return Error::failed(u"'text' takes one or more picture files."_s);
+    return Request(TextRequest {parser.positionalArguments(), parser.isSet(u"json"_s)});
+}
+
 constexpr qsizetype anyNumber = std::numeric_limits<qsizetype>::max();
 
 struct Command {
@@ -122,6 +129,7 @@ QList<Command> commands(const QStringList& arguments)
         {u"list"_s, {flag(u"json"_s)}, 1, list},
         {u"capture"_s, {flag(u"wait"_s), flag(u"json"_s)}, 1, capture},
         {u"pin"_s, {}, anyNumber, pin},
+        {u"text"_s, {flag(u"json"_s)}, anyNumber, text},
         {u"quit"_s, {}, 0, [](auto&) { return Request(QuitRequest {}); }},
         {{}, {flag(u"replace"_s), flag(u"background"_s)}, 0,
             [&](auto&) { return Request(LaunchRequest {arguments}); }},
@@ -185,6 +193,7 @@ usage:
   pixmallow shot [--output FILE|-] [--screen N | --window ID | --area X,Y,WxH]
                  [--cursor] [--shadow] [--json]
   pixmallow list screens|windows [--json]
+  pixmallow text FILE... [--json]
   pixmallow --version | --help
 
 Without a command Pixmallow starts, stays in the background and opens its panel;
@@ -215,6 +224,10 @@ shot   Writes a picture of the whole desktop to a PNG file and nothing else: no
   --json         print where the picture is and what it shows
 
 list   Prints the screens, or the windows on screen with the front-most first.
+
+text   Prints the text of pictures, or what the QR and bar codes in them say if
+       there is no other text. With several files each text has a heading.
+  --json         print a line of JSON for each file
 
 Exit code: 0 done, 1 cancelled by the user, 2 failed, 3 another capture is
 running, 64 wrong arguments.

@@ -41,6 +41,11 @@ struct CaptureRequest {
     bool json = false;
 };
 
+struct TextRequest {
+    QStringList files;
+    bool json = false;
+};
+
 /// Becoming the resident program, with the options it is given.
 struct LaunchRequest {
     QStringList options;
@@ -54,8 +59,8 @@ struct QuitRequest { };
 struct HelpRequest { };
 struct VersionRequest { };
 
-using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, LaunchRequest, PinRequest,
-    QuitRequest, HelpRequest, VersionRequest>;
+using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, TextRequest, LaunchRequest,
+    PinRequest, QuitRequest, HelpRequest, VersionRequest>;
 
 /// What the words behind the program's name ask for, or one line that says what is wrong with them.
 Result<Request> parseArguments(const QStringList& arguments);

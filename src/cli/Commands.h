@@ -14,6 +14,9 @@ Result<void> runList(const ListRequest& request);
 /// it and returns the exit code for that.
 Result<int> runCapture(const CaptureRequest& request);
 
+/// Becomes the program that prints the text of pictures. Returns only if that fails.
+Error runText(const TextRequest& request);
+
 /// Becomes the resident program. Returns only if that fails.
 Error runLaunch(const LaunchRequest& request);
 

@@ -3,6 +3,14 @@
 #include "cli/Commands.h"
 #include "cli/ResidentProgram.h"
 
+Error runText(const TextRequest& request)
+{
+    QStringList options {QStringLiteral("--text")};
+    if (request.json)
+        options << QStringLiteral("--json");
+    return ResidentProgram::become(options + QStringList {QStringLiteral("--")} + request.files);
+}
+
 Error runLaunch(const LaunchRequest& request)
 {
     return ResidentProgram::become(request.options);

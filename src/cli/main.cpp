@@ -31,6 +31,11 @@ Result<int> run(const CaptureRequest& request)
     return runCapture(request);
 }
 
+Result<int> run(const TextRequest& request)
+{
+    return runText(request);
+}
+
 Result<int> run(const LaunchRequest& request)
 {
     return runLaunch(request);

@@ -44,6 +44,9 @@ TEST(ArgumentsTest, understandsWhatTheResidentProgramIsAskedFor)
     EXPECT_EQ(std::get<PinRequest>(*parse(u"pin a.png -- -b.png"_s)).files,
         (QStringList {u"a.png"_s, u"-b.png"_s}));
     EXPECT_TRUE(std::holds_alternative<QuitRequest>(*parse(u"quit"_s)));
+    const auto text = std::get<TextRequest>(*parse(u"text a.png --json -- -b.png --json"_s));
+    EXPECT_EQ(text.files, (QStringList {u"a.png"_s, u"-b.png"_s, u"--json"_s}));
+    EXPECT_TRUE(text.json);
     EXPECT_EQ(std::get<LaunchRequest>(*parse(u""_s)).options, QStringList());
     EXPECT_EQ(
         std::get<LaunchRequest>(*parse(u"--replace"_s)).options, QStringList {u"--replace"_s});
@@ -55,16 +58,17 @@ TEST(ArgumentsTest, understandsWhatTheResidentProgramIsAskedFor)
 
 TEST(ArgumentsTest, refusesWhatItDoesNotUnderstandInOneLine)
 {
-    for (const auto& words : {u"shoot"_s, u"capture"_s, u"capture region window"_s,
-             u"capture region --replace"_s, u"quit now"_s, u"quit --wait"_s, u"pin"_s,
-             u"pin --wait a.png"_s, u"--replace shot"_s, u"--colour"_s, u"shot extra"_s,
-             u"shot --screen"_s, u"shot --screen 0"_s, u"shot --screen one"_s, u"shot --window 0"_s,
-             u"shot --window 99999999999"_s, u"shot --area 1,2,3"_s, u"shot --area 1,2,0x5"_s,
-             u"shot --area 1,2,5x5x5"_s, u"shot --area 0,0,100000x1"_s,
-             u"shot --screen 1 --window 5"_s, u"shot --screen 1 --screen 2"_s,
-             u"shot --output= --json"_s, u"shot --output a.jpg"_s, u"shot --output a.JPEG"_s,
-             u"shot --output - --json"_s, u"shot --shadow"_s, u"shot --colour"_s, u"list"_s,
-             u"list doors"_s, u"list screens windows"_s, u"list screens --cursor"_s}) {
+    for (const auto& words :
+        {u"shoot"_s, u"capture"_s, u"capture region window"_s, u"capture region --replace"_s,
+            u"quit now"_s, u"quit --wait"_s, u"pin"_s, u"pin --wait a.png"_s, u"--replace shot"_s,
+            u"--colour"_s, u"shot extra"_s, u"shot --screen"_s, u"shot --screen 0"_s,
+            u"shot --screen one"_s, u"shot --window 0"_s, u"shot --window 99999999999"_s,
+            u"shot --area 1,2,3"_s, u"shot --area 1,2,0x5"_s, u"shot --area 1,2,5x5x5"_s,
+            u"shot --area 0,0,100000x1"_s, u"shot --screen 1 --window 5"_s,
+            u"shot --screen 1 --screen 2"_s, u"shot --output= --json"_s, u"shot --output a.jpg"_s,
+            u"shot --output a.JPEG"_s, u"shot --output - --json"_s, u"shot --shadow"_s,
+            u"shot --colour"_s, u"text"_s, u"text --json"_s, u"text --wait a.png"_s, u"list"_s,
+            u"list doors"_s, u"list screens windows"_s, u"list screens --cursor"_s}) {
         const auto request = parse(words);
         ASSERT_FALSE(request) << words.toStdString();
         EXPECT_FALSE(request.error().message.isEmpty()) << words.toStdString();

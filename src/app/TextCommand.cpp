@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "app/TextCommand.h"
+
+#include "capture/OCR.h"
+#include "cli/Print.h"
+#include "platform/DesktopPlatform.h"
+
+#include <QImageReader>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Pixels per point. Captures tell theirs as dots of 72 per inch; what is below 140 of them may be
+/// anything.
+double scaleOf(const QImage& image)
+{
+    const double dots = image.dotsPerMeterX() * 0.0254;
+    return dots < 140 ? 1 : std::min(dots / 72, 4.0);
+}
+
+Result<OCR::Result> read(OCR& ocr, const QString& path)
+{
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QImage image = reader.read();
+    if (image.isNull())
+        return Error::failed(
+            u"'%1' cannot be read as a picture: %2."_s.arg(path, reader.errorString()));
+    auto result = ocr.recognize(image, scaleOf(image)).wait();
+    if (result && result->text.isEmpty())
+        return Error::failed(u"No text found in '%1'."_s.arg(path));
+    return result;
+}
+
+Result<void> printJson(const QString& path, const Result<OCR::Result>& result)
+{
+    QJsonObject object {{u"file"_s, path}};
+    if (result) {
+        object.insert(u"text"_s, result->text);
+        object.insert(u"lines"_s, result->lines);
+    } else {
+        object.insert(u"reason"_s, result.error().message);
+    }
+    return print(QJsonValue(object));
+}
+
+} // namespace
+
+int runTextCommand(QStringList words)
+{
+    const auto end = words.indexOf(u"--"_s);
+    const auto option = words.indexOf(u"--json"_s);
+    const bool json = option >= 0 && (end < 0 || option < end);
+    if (end >= 0)
+        words.removeAt(end);
+    if (json)
+        words.removeAt(option);
+
+    OCR ocr(makeTextRecognizer());
+    bool failed = words.isEmpty();
+    for (const auto& path : words) {
+        const auto result = read(ocr, path);
+        if (!result)
+            complain(result.error().message);
+        Result<void> printed;
+        if (json)
+            printed = printJson(path, result);
+        else if (result)
+            printed = print((
+                (words.size() > 1 ? u"==> %1 <==\n"_s.arg(path) : QString()) + result->text + u'\n')
+                                .toUtf8());
+        if (!printed)
+            complain(printed.error().message);
+        failed = failed || !result || !printed;
+    }
+    return failed ? 2 : 0;
+}
