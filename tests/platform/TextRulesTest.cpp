@@ -3,6 +3,7 @@
 #include "platform/freedesktop/text/Contrast.h"
 #include "platform/freedesktop/text/FoundLine.h"
 #include "platform/freedesktop/text/Languages.h"
+#include "platform/freedesktop/text/Misreadings.h"
 #include "platform/freedesktop/text/PageImage.h"
 
 #include <gmock/gmock.h>
@@ -30,11 +31,40 @@ QImage painted(QSize size, QColor ground, const QList<std::pair<QRect, QColor>>&
     return greyOf(image);
 }
 
+struct Confident {
+    QString text;
+    double confidence;
+};
+
+/// A line of words side by side, letters 20 pixels high, those of "gjpqy|" reaching 6 below.
+FoundLine line(const QList<Confident>& words)
+{
+    FoundLine made;
+    int x = 0;
+    for (const auto& [text, confidence] : words) {
+        const bool reaches = std::any_of(
+            text.begin(), text.end(), [](QChar each) { return u"gjpqy|"_s.contains(each); });
+        const QRect box(x, 0, 10 * int(text.size()), reaches ? 26 : 20);
+        made.words << FoundWord {text, box, confidence, reaches ? 6 : 0};
+        made.box |= box;
+        x += box.width() + 8;
+    }
+    return made;
+}
+
+FoundLine line(const QString& text)
+{
+    QList<Confident> words;
+    for (const auto& word : text.split(u' '))
+        words << Confident {word, 99};
+    return line(words);
+}
+
 QStringList texts(const QList<FoundLine>& lines)
 {
     QStringList all;
-    for (const auto& line : lines)
-        all << line.text;
+    for (const auto& each : lines)
+        all << each.text();
     return all;
 }
 
@@ -69,12 +99,39 @@ TEST(TextRulesTest, readsEnglishAndWhatTheUserSpeaksAndKeepsFewOthers)
 
 TEST(TextRulesTest, keepsLinesOfWordsAndSingleCharactersBesideThem)
 {
-    const FoundLine word {u"Hello"_s, {}, 99}, doubtful {u"Sphlnx"_s, {}, 97},
-        junk {u"»~ Pv"_s, {}, 96}, digit {u"7"_s, {}, 99}, dot {u"."_s, {}, 98},
-        image {u""_s, {}, 95};
+    const FoundLine word = line(u"Hello"_s), doubtful = line({{u"Sphlnx"_s, 97}}),
+                    junk = line({{u"»~ Pv"_s, 96}}), digit = line(u"7"_s), image {},
+                    dot = line({{u"."_s, 98}});
     EXPECT_THAT(texts(withoutGarbage({junk, digit, image, word, dot, doubtful})),
         testing::ElementsAre(u"7"_s, u"Hello"_s, u"Sphlnx"_s));
     EXPECT_TRUE(withoutGarbage({digit, image, junk}).isEmpty()) << "an icon reads like a letter";
+
+    const auto kept = withoutGarbage({line({{u"@"_s, 91}, {u"notes.h"_s, 99}, {u"+"_s, 99},
+        {u"x"_s, 90}, {u"1"_s, 99}, {u"B®"_s, 95}})});
+    EXPECT_THAT(texts(kept), testing::ElementsAre(u"notes.h + x 1"_s));
+    EXPECT_EQ(kept[0].box.left(), 18) << "behind the icon";
+}
+
+TEST(TextRulesTest, correctsWhatIsOftenMisread)
+{
+    auto bar = line(u"Home | About"_s); // Reaches below.
+    auto letter = line(u"So | think that | am right, and |'m not"_s);
+    for (auto& word : letter.words)
+        if (word.text.startsWith(u'|')) {
+            word.box.setHeight(21);
+            word.foot = 1;
+        }
+    QList<FoundLine> lines {bar, letter, line(u"https: //a.org std: :move Note: /usr"_s),
+        line(u"https:/Awww.a.org http//www.b.org www.c.org"_s),
+        line(u"say(\"one”) isn’t 'a' it's"_s)};
+    correctMisreadings(lines);
+    EXPECT_THAT(texts(lines),
+        testing::ElementsAre(u"Home | About"_s, u"So I think that I am right, and I'm not"_s,
+            u"https://a.org std::move Note: /usr"_s,
+            u"https://www.a.org http://www.b.org www.c.org"_s, u"say(\"one\") isn't 'a' it's"_s));
+    QList<FoundLine> curly {line(u"“Yes,” she said, “it’s there.”"_s)};
+    correctMisreadings(curly);
+    EXPECT_EQ(curly[0].text(), u"“Yes,” she said, “it’s there.”"_s);
 }
 
 TEST(TextRulesTest, enlargesWithoutChangingGreysOrPlaces)

@@ -16,9 +16,6 @@ namespace {
 /// Letters at the very edge are not found.
 constexpr int pageMargin = 16;
 
-/// Tesseract takes no larger pages.
-constexpr int longestSide = 32'000;
-
 /// Which two pixels a pixel of the larger picture lies between, and how near to the second, of 256.
 struct Between {
     int first, second, nearness;
@@ -82,8 +79,7 @@ QImage enlarged(const QImage& grey, double factor)
 
 PageImage PageImage::of(const QImage& grey, double scale)
 {
-    const double most
-        = double(longestSide - 2 * pageMargin) / std::max(grey.width(), grey.height());
+    const double most = double(longestSide) / std::max(grey.width(), grey.height());
     const double factor = std::clamp(bestScale / scale, 1.0, std::max(1.0, most));
     const QImage contrasted = blackOnWhite(grey, scale);
     return {withMargin(factor > 1 ? enlarged(contrasted, factor) : contrasted, pageMargin), factor,

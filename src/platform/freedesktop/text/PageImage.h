@@ -12,6 +12,9 @@ struct PageImage {
     /// and takes longer.
     static constexpr double bestScale = 2;
 
+    /// Of a picture, in pixels: Tesseract takes little more.
+    static constexpr int longestSide = 32'000;
+
     QImage image; ///< Format_Grayscale8.
     double factor = 1; ///< By which it is larger than the picture.
     int margin = 0;

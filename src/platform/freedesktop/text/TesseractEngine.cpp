@@ -5,7 +5,6 @@
 #include "platform/freedesktop/text/PageImage.h"
 
 #include <leptonica/allheaders.h>
-#include <tesseract/baseapi.h>
 #include <tesseract/ocrclass.h>
 
 #include <algorithm>
@@ -14,7 +13,7 @@ using namespace Qt::StringLiterals;
 using namespace tesseract;
 
 /// Of libgomp, which Tesseract brings along; its header is the compiler's own.
-extern "C" void omp_set_max_active_levels(int levels);
+extern "C" void setMostThreadLevels(int levels) asm("omp_set_max_active_levels");
 
 namespace {
 
@@ -43,26 +42,46 @@ bool isCancelled(void* flag, int)
     return *static_cast<const std::atomic<bool>*>(flag);
 }
 
-/// The mean over the characters of the line that the iterator stands on. What Tesseract says of
-/// a whole line is that of its worst characters, so that it doubts every long address.
-double confidenceOf(ResultIterator symbol)
+QRect boxAt(const ResultIterator& place, PageIteratorLevel level)
+{
+    int left = 0, top = 0, right = 0, bottom = 0;
+    place.BoundingBox(level, &left, &top, &right, &bottom);
+    return {left, top, right - left, bottom - top};
+}
+
+/// The mean over the characters of the word that the iterator stands on.
+double confidenceAt(ResultIterator symbol)
 {
     double sum = 0;
     int count = 0;
     do {
         sum += double(symbol.Confidence(RIL_SYMBOL));
         ++count;
-    } while (!symbol.IsAtFinalElement(RIL_TEXTLINE, RIL_SYMBOL) && symbol.Next(RIL_SYMBOL));
+    } while (!symbol.IsAtFinalElement(RIL_WORD, RIL_SYMBOL) && symbol.Next(RIL_SYMBOL));
     return sum / count;
 }
 
-FoundLine lineAt(const ResultIterator& line)
+FoundWord wordAt(const ResultIterator& word)
 {
-    const std::unique_ptr<const char[]> text(line.GetUTF8Text(RIL_TEXTLINE));
-    int left = 0, top = 0, right = 0, bottom = 0;
-    line.BoundingBox(RIL_TEXTLINE, &left, &top, &right, &bottom);
-    return {QString::fromUtf8(text.get()).simplified(),
-        QRect(left, top, right - left, bottom - top), confidenceOf(line)};
+    const std::unique_ptr<const char[]> text(word.GetUTF8Text(RIL_WORD));
+    const QRect box = boxAt(word, RIL_WORD);
+    int left = 0, baseline = 0, right = 0, rightBaseline = 0;
+    word.Baseline(RIL_WORD, &left, &baseline, &right, &rightBaseline);
+    return {QString::fromUtf8(text.get()).simplified(), box, confidenceAt(word),
+        box.bottom() + 1 - baseline};
+}
+
+/// The line that a word begins; the iterator is moved to its last word.
+FoundLine lineFrom(ResultIterator& word)
+{
+    FoundLine line {{}, boxAt(word, RIL_TEXTLINE)};
+    while (true) {
+        // An image among the text comes as a word of spaces, without any doubt.
+        if (auto found = wordAt(word); !found.text.isEmpty())
+            line.words << std::move(found);
+        if (word.IsAtFinalElement(RIL_TEXTLINE, RIL_WORD) || !word.Next(RIL_WORD))
+            return line;
+    }
 }
 
 } // namespace
@@ -71,8 +90,6 @@ TesseractEngine::TesseractEngine(std::unique_ptr<TessBaseAPI> api)
     : m_api(std::move(api))
 {
 }
-
-TesseractEngine::~TesseractEngine() = default;
 
 QStringList TesseractEngine::installed()
 {
@@ -107,7 +124,7 @@ QList<FoundLine> TesseractEngine::read(Layout layout, const std::atomic<bool>& c
 {
     // In each thread that reads. Otherwise threads of OpenMP spin beside it, and as soon as another
     // program wants one of the processors, this takes ten times as long.
-    omp_set_max_active_levels(0);
+    setMostThreadLevels(0);
     m_api->SetPageSegMode(layout == Layout::Page ? PSM_AUTO : PSM_SINGLE_LINE);
     ETEXT_DESC monitor;
     monitor.cancel = isCancelled;
@@ -115,12 +132,12 @@ QList<FoundLine> TesseractEngine::read(Layout layout, const std::atomic<bool>& c
     QList<FoundLine> lines;
     if (m_api->Recognize(&monitor) != 0 || cancelled)
         return lines;
-    const std::unique_ptr<ResultIterator> line(m_api->GetIterator());
-    if (!line || line->Empty(RIL_TEXTLINE))
+    const std::unique_ptr<ResultIterator> word(m_api->GetIterator());
+    if (!word || word->Empty(RIL_WORD))
         return lines;
     do
-        lines << lineAt(*line);
-    while (line->Next(RIL_TEXTLINE));
+        lines << lineFrom(*word);
+    while (word->Next(RIL_WORD));
     return lines;
 }
 

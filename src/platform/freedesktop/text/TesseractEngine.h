@@ -6,12 +6,10 @@
 
 #include <QImage>
 
+#include <tesseract/baseapi.h>
+
 #include <atomic>
 #include <memory>
-
-namespace tesseract {
-class TessBaseAPI;
-}
 
 /// Tesseract with some models loaded. For one thread at a time, and none that the toolkit draws in.
 class TesseractEngine final {
@@ -21,7 +19,6 @@ public:
 
     /// Null if the models cannot be loaded.
     static std::unique_ptr<TesseractEngine> load(const QStringList& models);
-    ~TesseractEngine();
 
     /// What is read from now on; Format_Grayscale8, not copied, at PageImage::bestScale. Null ends
     /// it.

@@ -3,6 +3,7 @@
 #include "platform/freedesktop/text/TesseractRecognizer.h"
 
 #include "platform/freedesktop/text/Codes.h"
+#include "platform/freedesktop/text/Misreadings.h"
 #include "platform/freedesktop/text/PageImage.h"
 
 #include <QPainter>
@@ -52,22 +53,26 @@ Result<RecognisedText> TesseractRecognizer::recognise(
 {
     if (picture.isNull())
         return RecognisedText {};
-    if (const auto loaded = load(); !loaded)
-        return loaded.error();
+    if (std::max(picture.width(), picture.height()) > PageImage::longestSide)
+        return Error::failed(u"The picture is too large to be read, longer than %1 pixels."_s.arg(
+            PageImage::longestSide));
     QImage grey = greyOf(picture);
     const auto codes = readCodes(grey);
     wipe(grey, codes);
     RecognisedText recognised;
     for (const auto& code : codes)
         recognised.codes << code.text;
-    if (isEmpty(grey))
+    const auto loaded = load();
+    if (!loaded && codes.isEmpty())
+        return loaded.error();
+    if (!loaded || isEmpty(grey))
         return recognised;
     const auto page = PageImage::of(grey, scale);
     const auto lines = cancelled ? QList<FoundLine>() : linesOf(page.image, cancelled);
     if (cancelled)
         return Error::cancelled();
     for (const auto& line : lines)
-        recognised.lines << RecognisedText::Line {line.text, page.inPicture(line.box)};
+        recognised.lines << RecognisedText::Line {line.text(), page.inPicture(line.box)};
     return recognised;
 }
 
@@ -101,7 +106,9 @@ QList<FoundLine> TesseractRecognizer::linesOf(
         lines = m_usual->read(TesseractEngine::Layout::OneLine, cancelled);
     readOnceMore(lines, page, cancelled);
     m_usual->show({});
-    return withoutGarbage(lines);
+    lines = withoutGarbage(lines);
+    correctMisreadings(lines);
+    return lines;
 }
 
 /// The lines that make no sense, with the other models.
@@ -109,7 +116,7 @@ void TesseractRecognizer::readOnceMore(
     QList<FoundLine>& lines, const QImage& page, const std::atomic<bool>& cancelled)
 {
     const auto isDoubtful = [](const FoundLine& line) {
-        return line.confidence < doubtfulConfidence && !line.text.isEmpty();
+        return line.confidence() < doubtfulConfidence && !line.isEmpty();
     };
     if (m_choice.others.isEmpty() || std::none_of(lines.begin(), lines.end(), isDoubtful))
         return;
@@ -121,9 +128,9 @@ void TesseractRecognizer::readOnceMore(
     for (auto& line : lines) {
         if (!isDoubtful(line) || cancelled)
             continue;
-        const auto other = m_others->readLine(line.box, cancelled);
-        if (other.confidence > line.confidence)
-            line = FoundLine {other.text, line.box, other.confidence};
+        if (auto other = m_others->readLine(line.box, cancelled);
+            other.confidence() > line.confidence())
+            line = std::move(other);
     }
     m_others->show({});
 }
