@@ -10,11 +10,6 @@
 
 #include <functional>
 
-struct RecognisedText {
-    QString text;
-    int lines = 0;
-};
-
 /// What the rooms along a capture's way do when it comes by. A room that is not connected is an
 /// empty function: its step is left out, and a kind of capture that cannot do without is not
 /// available.
