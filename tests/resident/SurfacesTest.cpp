@@ -101,6 +101,17 @@ protected:
         return waitFor([&] { return see() == before; });
     }
 
+    /// What is on the screen when nothing moves there any more.
+    static QImage settled()
+    {
+        QImage last = see();
+        EXPECT_TRUE(waitFor([&] {
+            std::ignore = waitFor([] { return false; }, std::chrono::milliseconds(100));
+            return std::exchange(last, see()) == last;
+        }));
+        return last;
+    }
+
     void leavesNoTraceInCaptures();
 };
 
@@ -114,7 +125,10 @@ constexpr QRect toastCard(944, 704, 320, 80);
 template <DesktopOptions (*options)()>
 void SurfacesDesktop<options>::leavesNoTraceInCaptures()
 {
-    const QImage before = see();
+    const QImage bare = see();
+    const auto beside = Base::open({u"--pattern"_s, u"6"_s, u"--geometry"_s, u"100,100,30x200"_s});
+    ASSERT_TRUE(changes(beside.geometry, bare));
+    const QImage before = settled();
     toast();
     ASSERT_TRUE(changes(toastCard, before));
     EXPECT_EQ(taken(*begin(u"screen"_s)), before);
@@ -142,7 +156,7 @@ TEST_F(CompositedSurfacesTest, leaveNoTraceInCaptures)
 TEST_F(SurfacesTest, leaveTheKeyboardToWhomItBelongs)
 {
     const auto thin = open({u"--geometry"_s, u"100,100,30x200"_s});
-    const QImage before = see();
+    const QImage before = settled();
     const auto typing = [&] {
         desktop().key("a");
         return !thin.client->waitForLine("key a").isNull();

@@ -98,6 +98,9 @@ public:
         , m_target(xcb_generate_id(m_xcb))
         , m_holes(xcb_generate_id(m_xcb))
     {
+        // The server refuses regions to a client that has not said which version it speaks.
+        (void)owned(
+            xcb_xfixes_query_version_reply(m_xcb, xcb_xfixes_query_version(m_xcb, 5, 0), nullptr));
         xcb_render_create_picture(m_xcb, m_target, target, m_formats.opaque, 0, nullptr);
         xcb_xfixes_create_region(m_xcb, m_holes, std::uint32_t(holes.size()), holes.data());
     }
