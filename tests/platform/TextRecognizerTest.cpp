@@ -228,15 +228,19 @@ TEST_F(TextRecognizerTest, readsQrAndBarCodes)
     EXPECT_EQ(both.lines[0].text, u"Scan this to open the page"_s);
 }
 
-TEST_F(TextRecognizerTest, readsLanguagesThatTheUserSpeaks)
+TEST_F(TextRecognizerTest, readsLanguagesThatTheUserSpeaksAndScriptsThatAreInstalled)
 {
     const QString german = u"Größere Änderungen müssen überprüft werden."_s;
-    const QImage page = TextCorpus::page({german}, {font, 16, 1, false});
     ModuleTextRecognizer ofGerman({u"de-AT"_s, u"de"_s});
-    const auto read = ofGerman.recognise(page, 1, cancelled);
+    const auto read
+        = ofGerman.recognise(TextCorpus::page({german}, {font, 16, 1, false}), 1, cancelled);
     ASSERT_TRUE(read);
     ASSERT_EQ(read->lines.size(), 1);
     EXPECT_EQ(read->lines[0].text, german);
+
+    const QStringList both {u"Press the button to save the file."_s,
+        u"Нажмите кнопку, чтобы сохранить файл."_s, u"Привет, мир! Это проверка."_s};
+    EXPECT_EQ(textOf(TextCorpus::page(both, {font, 16, 1, false})), both.join(u'\n'));
 }
 
 TEST_F(TextRecognizerTest, saysWhatToInstallWithoutAnyLanguage)

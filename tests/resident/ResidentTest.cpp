@@ -68,13 +68,19 @@ protected:
 
     std::unique_ptr<Client> captureText()
     {
-        const QRect corner(0, 0, 4, 4); // Where there is no window.
+        // Nothing but the selection darkens this corner; the terminal may still write.
+        const QRect corner(10, 10, 4, 4);
+        const auto window = open({u"--override-redirect"_s, u"--geometry"_s, u"0,0,40x40"_s});
         const QImage before = desktop().rootPixels(corner);
         auto asking
             = desktop().launch(u"pixmallow"_s, {u"capture"_s, u"text"_s, u"--wait"_s, u"--json"_s});
         EXPECT_TRUE(asking);
         EXPECT_TRUE(waitFor([&] { return !equal(desktop().rootPixels(corner), before); }));
-        desktop().key("space");
+        EXPECT_TRUE(waitFor([&] { // It is seen a moment before it has the keyboard.
+            desktop().key("space");
+            return waitFor([&] { return equal(desktop().rootPixels(corner), before); },
+                std::chrono::milliseconds(500));
+        }));
         return *std::move(asking);
     }
 
