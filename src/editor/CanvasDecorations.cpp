@@ -41,7 +41,7 @@ QRectF handleRect(QPointF centre)
 
 QRegion everything(const CenteringClipView& view)
 {
-    return view.toView(QRectF({}, view.content() / view.magnification())).toAlignedRect();
+    return view.toView(QRectF({}, view.picture())).toAlignedRect();
 }
 
 } // namespace
@@ -66,7 +66,7 @@ void CanvasDecorations::draw(
     if (crop) {
         QPainterPath outside;
         outside.setFillRule(Qt::OddEvenFill);
-        outside.addRect(view.toView(QRectF({}, view.content() / view.magnification())));
+        outside.addRect(view.toView(QRectF({}, view.picture())));
         outside.addRect(view.toView(*crop));
         painter.fillPath(outside, shade);
         painter.setPen(dashed(Qt::white, cropLine, cropDash));

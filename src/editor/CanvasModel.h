@@ -24,6 +24,7 @@ public:
 
     const CanvasDocument& document() const { return m_document; }
     CanvasDocument& document(); ///< To be changed: ends what the mouse was doing.
+    QRegion takeDamage() { return m_document.takeDamage(); } ///< What to draw anew, in pixels.
 
     Tool tool() const { return m_tool; }
     void setTool(Tool tool);

@@ -64,38 +64,43 @@ const QImage& CanvasPicture::reduced(int halvings)
     return *larger;
 }
 
-void CanvasPicture::draw(
-    QPainter& painter, const CenteringClipView& view, std::span<const Annotation* const> marks)
+void CanvasPicture::draw(QPainter& painter, const CenteringClipView& view,
+    std::span<const Annotation* const> marks, Detail detail)
 {
     const double zoom = view.magnification() * view.devicePixelRatio();
-    if (zoom > 1)
-        return drawEnlarged(painter, view, marks);
-    int halvings = 0;
-    while (zoom * (2 << halvings) <= 1)
-        ++halvings;
-    const double scale = zoom * (1 << halvings); // Of the reduced picture.
     painter.save();
+    // Scaling without smoothing, the toolkit may go on for a pixel beyond the image.
+    const QRect inside = view.toView(QRectF(QPointF(), m_full.size())).toAlignedRect();
+    painter.setClipRect(inside, Qt::IntersectClip);
     painter.setTransform(view.transform(), true);
-    painter.scale(1 << halvings, 1 << halvings);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale != 1);
-    painter.drawImage(0, 0, reduced(halvings));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom != 1 && zoom < pixelsShow);
+    if (zoom <= 1)
+        drawReduced(painter, zoom);
+    else if (detail == Detail::Sharp)
+        drawSharp(painter, marks);
+    else
+        painter.drawImage(0, 0, m_full);
     painter.restore();
 }
 
-void CanvasPicture::drawEnlarged(QPainter& painter, const CenteringClipView& view,
-    std::span<const Annotation* const> marks) const
+void CanvasPicture::drawReduced(QPainter& painter, double zoom)
 {
-    painter.save();
-    painter.setTransform(view.transform(), true);
+    int halvings = 0;
+    while (zoom * (2 << halvings) <= 1)
+        ++halvings;
+    if (zoom * (1 << halvings) == 1) // Pixel by pixel.
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.scale(1 << halvings, 1 << halvings);
+    painter.drawImage(0, 0, reduced(halvings));
+}
+
+void CanvasPicture::drawSharp(QPainter& painter, std::span<const Annotation* const> marks) const
+{
     const QRectF wanted
         = painter.hasClipping() ? painter.clipBoundingRect() : QRectF(m_base.rect());
-    const bool smooth = view.magnification() * view.devicePixelRatio() < pixelsShow;
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
     painter.drawImage(0, 0, m_base);
-    painter.setClipRect(m_base.rect(), Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Annotation* const mark : marks)
         if (mark->ink().intersects(wanted))
             mark->draw(painter, m_base);
-    painter.restore();
 }

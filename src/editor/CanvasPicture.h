@@ -13,8 +13,8 @@ struct Annotation;
 class QPainter;
 
 /// A picture with its annotations as the canvas shows them. At its own size and smaller, they are
-/// the very pixels that flattening gives, reduced; larger, lines and letters stay sharp. Draws anew
-/// only what has changed.
+/// the very pixels that flattening gives, reduced; larger, lines and letters can be drawn sharp,
+/// which takes its time. Draws anew only what has changed.
 class CanvasPicture final {
 public:
     /// @param base 32 bits a pixel.
@@ -23,10 +23,13 @@ public:
     void update(
         const QImage& base, std::span<const Annotation* const> marks, const QRegion& damage);
 
+    enum class Detail { Fast, Sharp };
+
     /// @param painter in points of the view, clipped to what is wanted.
     /// @param marks those of the last update().
-    void draw(
-        QPainter& painter, const CenteringClipView& view, std::span<const Annotation* const> marks);
+    /// @param detail of what is enlarged.
+    void draw(QPainter& painter, const CenteringClipView& view,
+        std::span<const Annotation* const> marks, Detail detail = Detail::Sharp);
 
     const QImage& pixels() const { return m_full; } ///< As flattened.
 
@@ -38,8 +41,8 @@ private:
     };
 
     const QImage& reduced(int halvings);
-    void drawEnlarged(QPainter& painter, const CenteringClipView& view,
-        std::span<const Annotation* const> marks) const;
+    void drawReduced(QPainter& painter, double zoom);
+    void drawSharp(QPainter& painter, std::span<const Annotation* const> marks) const;
 
     QImage m_base;
     QImage m_full;

@@ -27,7 +27,8 @@ public:
     QPointF offset() const { return m_offset; }
     QSizeF range() const; ///< How far offsets go, from 0.
 
-    QSize view() const { return m_view; }
+    QSize view() const { return m_view; } ///< Points.
+    QSize picture() const { return m_picture; } ///< Pixels.
     QSizeF content() const { return QSizeF(m_picture) * m_magnification; } ///< The picture, points.
     QPointF origin() const; ///< Of the picture in the view.
     QPointF toPicture(QPointF point) const { return (point - origin()) / m_magnification; }

@@ -146,8 +146,7 @@ TEST(CanvasPictureTest, showsPieceByPieceWhatFlatteningGives)
             monkey.act();
             if (step % 5)
                 continue;
-            auto& changing = const_cast<CanvasDocument&>(document); // Whatever the mouse does.
-            shown.update(document.base(), model.visible(), changing.takeDamage());
+            shown.update(document.base(), model.visible(), model.takeDamage());
             // Where a soft light begins to be drawn decides how its colours are rounded.
             ASSERT_LE(difference(shown.pixels(), flattenedWithCurrent(model)), 4)
                 << "seed " << seed << ", step " << step;
