@@ -30,10 +30,11 @@ void Blur::draw(QPainter& painter, const Annotation& it, const QImage& base) con
     const auto* const cache = pixelated(it, base);
     if (!cache)
         return;
+    painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
-    // Onto the very pixels it was made of, or its blocks would be smeared. As a brush: an image
-    // that is scaled without smoothing may go on for a pixel beyond its edge.
-    QBrush brush(cache->image);
-    brush.setTransform(QTransform::fromTranslate(cache->area.x(), cache->area.y()));
-    painter.fillRect(cache->area, brush);
+    // Scaling without smoothing, the toolkit may go on for a pixel beyond the image.
+    painter.setClipRect(cache->area, Qt::IntersectClip);
+    // Onto the very pixels it was made of, or its blocks would be smeared.
+    painter.drawImage(cache->area.topLeft(), cache->image);
+    painter.restore();
 }
