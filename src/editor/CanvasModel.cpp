@@ -215,7 +215,8 @@ void CanvasModel::release(QPointF at)
 CanvasModel::KeyAnswer CanvasModel::key(
     int key, Qt::KeyboardModifiers modifiers, const QString& typed)
 {
-    answerPrompt({});
+    if (m_prompt)
+        return KeyAnswer::Ignored; // It is for whoever asks for the text.
     if (key == Qt::Key_Escape)
         return escape();
     if (m_pressed)

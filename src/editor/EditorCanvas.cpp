@@ -307,6 +307,13 @@ void EditorCanvas::keyReleaseEvent(QKeyEvent* event)
     updateCursor();
 }
 
+void EditorCanvas::focusOutEvent(QFocusEvent* event)
+{
+    m_spaceHeld = false; // Nobody will tell when it is released.
+    updateCursor();
+    QAbstractScrollArea::focusOutEvent(event);
+}
+
 void EditorCanvas::updateCursor()
 {
     if (m_panFrom)

@@ -77,6 +77,7 @@ void TextField::keyPressEvent(QKeyEvent* event)
         Q_EMIT done();
     else
         QTextEdit::keyPressEvent(event);
+    event->accept(); // None of them is for the canvas.
 }
 
 void TextField::wheelEvent(QWheelEvent* event)

@@ -174,6 +174,7 @@ TEST_F(CanvasModelTest, asksForTexts)
     model.setTextStyle(u"Neon"_s);
     for (const auto& answer : {std::optional<QString>(), std::optional(u""_s)}) {
         model.press({50, 60}, 1);
+        EXPECT_EQ(model.key(Qt::Key_Shift, Qt::ShiftModifier), Ignored);
         ASSERT_TRUE(model.textPrompt() && model.textPrompt()->isNew);
         model.release({50, 60});
         model.answerPrompt(answer);

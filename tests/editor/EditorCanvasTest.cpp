@@ -166,6 +166,9 @@ TEST_F(EditorCanvasTest, magnifiesAboutThePointerAndPans)
     drag({200, 200}, {190, 190});
     key(QEvent::KeyRelease, Qt::Key_Space);
     EXPECT_EQ(canvas.view().origin() - lower, QPointF(10, 20));
+    key(QEvent::KeyPress, Qt::Key_Space);
+    QFocusEvent away(QEvent::FocusOut); // And released somewhere else.
+    QApplication::sendEvent(&canvas, &away);
     EXPECT_EQ(count(), 0U);
     drag({200, 200}, {300, 300});
     EXPECT_EQ(count(), 1U);
@@ -182,6 +185,7 @@ TEST_F(EditorCanvasTest, typesTextsInPlace)
     begin({100, 100});
     type(Qt::Key_A, u"a"_s);
     type(Qt::Key_Return, u"\r"_s, Qt::ShiftModifier);
+    type(Qt::Key_Shift);
     type(Qt::Key_V, u"v"_s); // No tool is chosen by it.
     type(Qt::Key_Return, u"\r"_s);
     ASSERT_EQ(count(), 1U);
