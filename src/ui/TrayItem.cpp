@@ -9,11 +9,27 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Adds a shortcut in signs behind the title, and in words for those who do not know the signs or
+/// have them read out.
+void label(QAction& action, const KeyCombo& shortcut)
+{
+    const QString words = u"%1, %2"_s.arg(action.text(), shortcut.spelled());
+    action.setText(action.text() + u'\t' + shortcut.display()); // Menus put it at the right.
+    action.setToolTip(words);
+    action.setStatusTip(words);
+    action.setWhatsThis(words);
+}
+
+} // namespace
+
 TrayItem::TrayItem(AppState& state, const Prefs& prefs)
     : m_state(state)
     , m_prefs(prefs)
     , m_icon(QIcon(u":/pixmallow.svg"_s))
 {
+    m_menu.setToolTipsVisible(true);
     fillMenu();
     m_icon.setToolTip(u"Pixmallow"_s);
     m_icon.setContextMenu(&m_menu);
@@ -39,9 +55,10 @@ void TrayItem::fillMenu()
         QString title = info.title;
         if (title.contains(u"%1"_s))
             title = title.arg(m_prefs.get(Prefs::keys.delaySeconds));
-        if (const QString shortcut = m_state.hotkeyLabel(info.kind); !shortcut.isEmpty())
-            title += u'\t' + shortcut; // Menus put it at the right, behind the titles.
-        m_menu.addAction(title, this, [this, kind = info.kind] { m_state.capture(kind); });
+        auto* action
+            = m_menu.addAction(title, this, [this, kind = info.kind] { m_state.capture(kind); });
+        if (const auto shortcut = m_state.hotkey(info.kind))
+            label(*action, *shortcut);
     }
     m_menu.addSeparator();
     m_menu.addAction(u"Quit Pixmallow"_s, qApp, &QCoreApplication::quit);

@@ -25,6 +25,8 @@ public:
     /// The middle of the icon in points of the desktop, y down; none where the tray does not tell.
     std::optional<QPointF> position() const;
 
+    const QMenu& menu() const { return m_menu; }
+
 private:
     void fillMenu();
 
