@@ -48,6 +48,8 @@ Result<std::optional<QJsonObject>> readContent(const QString& path)
     QFile file(path);
     if (!file.exists())
         return std::optional(QJsonObject());
+    if (!QFileInfo(path).isFile()) // Opening a pipe would wait for somebody to write into it.
+        return Error::failed(u"Couldn't read “%1”: it is no file."_s.arg(path));
     if (!file.open(QIODevice::ReadOnly))
         return Error::failed(u"Couldn't read “%1”: %2."_s.arg(path, file.errorString()));
     const QByteArray text = file.readAll();

@@ -3,6 +3,7 @@
 #include "base/PngWriter.h"
 
 #include "base/PngEngine.h"
+#include "tests/Soak.h"
 
 #include <QImage>
 
@@ -10,7 +11,6 @@
 #include <zlib.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <cstring>
 #include <random>
 
@@ -328,11 +328,9 @@ TEST(PngWriter, endsAtOnceWithTheReasonOfASourceOrSinkThatFails)
     }
 }
 
-// PIXMALLOW_SOAK=100 multiplies the rounds by a hundred.
 TEST(PngWriter, readsBackRandomPictures)
 {
-    const char* soak = std::getenv("PIXMALLOW_SOAK");
-    const int rounds = 60 * (soak ? std::max(1, std::atoi(soak)) : 1);
+    const int rounds = soaked(60);
     for (int round = 0; round < rounds; ++round) {
         std::mt19937 random(static_cast<unsigned>(round));
         const auto below = [&](int limit) { return int(random() % unsigned(limit)); };

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "base/Prefs.h"
 
+#include "tests/Soak.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
@@ -14,7 +17,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <functional>
+#include <random>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -231,6 +236,74 @@ TEST_F(PrefsTest, setsADamagedFileAsideWithItsContent)
     EXPECT_TRUE(prefs.flush());
     EXPECT_EQ(stored(), (QJsonObject {{u"skin"_s, u"ocean"_s}, {u"sound"_s, u"Pop"_s}}));
     EXPECT_EQ(folder.entryList(QDir::Files).size(), 4);
+}
+
+TEST_F(PrefsTest, makesWhateverTheFileHoldsIntoPreferencesAndLosesNothing)
+{
+    static constexpr std::array tokens {"null", "true", "false", "0", "-1", "2.5", "1e400",
+        "2147483648", "9007199254740993", "\"\"", "\"jpg\"", "\"false\"", "\"\\ud800\"",
+        "\"\\u0000\"", "[]", "{}", "{\"a\":[1]}", ",", "}", "\"", "\"9999-12-31T23:59:60Z\"",
+        "\"-0001-01-01T00:00:00Z\"", "\xff"};
+    QJsonObject sample {{u"not ours"_s, QJsonArray {1, QJsonValue::Null}}};
+    for (const AnyPrefKey* key : keys.all())
+        sample.insert(QLatin1String(key->name), key->toJson(key->defaultValue()));
+    ASSERT_TRUE(QDir().mkpath(m_folders.configuration));
+    int damaged = 0;
+    const int rounds = soaked(150);
+    for (int round = 0; round < rounds; ++round) {
+        std::mt19937 random(static_cast<unsigned>(round));
+        const auto below = [&](qsizetype limit) { return qsizetype(random() % quint64(limit)); };
+        QByteArray text = QJsonDocument(sample).toJson();
+        for (auto changes = 1 + below(4); changes > 0; --changes) {
+            const auto place = below(text.size());
+            const auto colon = text.indexOf(": ", place), end = text.indexOf(",\n", colon);
+            if (below(5) && colon >= 0 && end > colon) // A value, whole.
+                text.replace(colon + 2, end - colon - 2, tokens[std::size_t(below(tokens.size()))]);
+            else if (below(2))
+                text[place] = char(random());
+            else
+                text.remove(place, 1 + below(4));
+        }
+        write(m_path, text);
+        const auto document = QJsonDocument::fromJson(text);
+        Prefs prefs(m_folders, Prefs::Watch::Nothing);
+        prefs.registerDefaults();
+        for (const AnyPrefKey* key : keys.all()) {
+            const auto value = prefs.value(*key);
+            ASSERT_TRUE(!value.isValid() || value.metaType() == key->type)
+                << round << ": " << key->name;
+        }
+        ASSERT_FALSE(prefs.saveFolder().isEmpty()) << round;
+
+        prefs.set(keys.petReactions, false);
+        ASSERT_TRUE(prefs.flush()) << round << ": " << text.constData();
+        auto expected = document.object();
+        expected.insert(u"petReactions"_s, false);
+        ASSERT_EQ(stored(), expected) << round << ": " << text.constData();
+        if (document.isObject())
+            continue;
+        const auto aside = QDir(m_folders.configuration)
+                               .entryInfoList({u"preferences.json.damaged-*"_s}, QDir::Files);
+        ASSERT_EQ(aside.size(), 1) << round;
+        ASSERT_EQ(contentOf(aside.first().filePath()), text) << round;
+        ASSERT_TRUE(QFile::remove(aside.first().filePath()));
+        ++damaged;
+    }
+    EXPECT_GT(damaged, rounds / 10);
+    EXPECT_LT(damaged, rounds * 9 / 10) << "of what cannot be read, nothing is tried";
+}
+
+TEST_F(PrefsTest, doesNotWaitForWhoeverMightWriteIntoAPipe)
+{
+    ASSERT_TRUE(QDir().mkpath(m_folders.configuration));
+    ASSERT_EQ(mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
+    Prefs prefs(m_folders);
+    prefs.set(keys.historyMax, 50);
+    EXPECT_EQ(prefs.get(keys.historyMax), 50);
+    EXPECT_FALSE(prefs.flush());
+    ASSERT_TRUE(QFile::remove(m_path));
+    EXPECT_TRUE(prefs.flush());
+    EXPECT_EQ(stored().value(u"historyMax"_s), 50);
 }
 
 TEST_F(PrefsTest, aValueThatCannotBeWrittenHoldsAndIsWrittenLater)

@@ -3,6 +3,7 @@
 #include "fun/FunStats.h"
 
 #include "fun/FunRules.h"
+#include "tests/Soak.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,7 +12,6 @@
 #include <gmock/gmock.h>
 
 #include <array>
-#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -83,14 +83,12 @@ TEST(FunStats, makeNoSenseWhereAMemberIsMissingOrOdd)
         EXPECT_FALSE(FunStats::fromJson(text)) << text.constData();
 }
 
-// PIXMALLOW_SOAK=100 multiplies the rounds by a hundred.
 TEST(FunStats, whateverIsReadCanBeCountedOnWrittenAndReadAgain)
 {
     static constexpr std::array tokens {"9007199254740992", "9007199254740993", "-1", "1e400", "0",
         "1e15", "null", "true", "[]", "{}", "\"\\ud800\"", "\"\\u0000\"", "{\"\":1}", "-0.0", ",",
         "9223372036854775807", "\"", "-63114076800", "1e-5"};
-    const char* soak = std::getenv("PIXMALLOW_SOAK");
-    const int rounds = 4000 * (soak ? std::max(1, std::atoi(soak)) : 1);
+    const int rounds = soaked(4000);
     const QDateTime now(QDate(2026, 3, 7), QTime(3, 0), Qt::UTC);
     const FunRules::Random first = [](int) { return 0; };
     int read = 0;

@@ -4,6 +4,7 @@
 
 #include "capture/Files.h"
 #include "history/HistoryStore.h"
+#include "tests/Soak.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -100,12 +101,6 @@ inline QImage sampleImage(int number, QSize size = {6, 4})
 inline QByteArray pngOf(const QImage& image)
 {
     return *Files::encode(image, ImageType::Png, 1);
-}
-
-/// PIXMALLOW_SOAK=100 multiplies the rounds by a hundred.
-inline int soaked(int rounds)
-{
-    return rounds * std::max(1, qEnvironmentVariableIntValue("PIXMALLOW_SOAK"));
 }
 
 /// Runs the event loop until something has come true, for at most ten seconds.

@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "shortcuts/KeyCombo.h"
 
+#include "tests/Soak.h"
+
 #include <gtest/gtest.h>
 
 #include <QInputDevice>
 #include <QKeyEvent>
+#include <QRegularExpression>
+
+#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +43,40 @@ TEST(KeyComboTest, readsWhatIsStoredAndNothingElse)
              u"4294967296:4608:1"_s, u"18:4294967296:1"_s, u"-1:0:1"_s, u"+1:0:1"_s, u" 1:0:1"_s,
              u"1 :0:1"_s, u"1:0x10:1"_s, u"1:1e3:1"_s, u"١:0:1"_s})
         EXPECT_FALSE(KeyCombo::fromText(text)) << qPrintable(text);
+}
+
+TEST(KeyComboTest, readsRandomTextsAsTheFormatSays)
+{
+    static const QStringList pieces {u":"_s, u"0"_s, u"18"_s, u"4608"_s, u"4294967295"_s,
+        u"4294967296"_s, u"-"_s, u"+"_s, u" "_s, u"1e3"_s, u"٣"_s, u"↩"_s, u"🙂"_s, u"K"_s,
+        QString(QChar::Null), QString(QChar(0xd800)), u"\n"_s, QString(300, u'9')};
+    const auto isNumber = [](const QString& text) {
+        static const QRegularExpression zerosAndDigits(u"\\A0*([0-9]{1,10})\\z"_s);
+        const auto match = zerosAndDigits.match(text);
+        return match.hasMatch() && match.captured(1).toLongLong() <= 0xffffffff;
+    };
+    int valid = 0;
+    const int rounds = soaked(20'000);
+    for (int round = 0; round < rounds; ++round) {
+        std::mt19937 random(static_cast<unsigned>(round));
+        const auto below = [&](qsizetype limit) { return qsizetype(random() % quint64(limit)); };
+        QString text = below(3) ? u"18:4608:1"_s : QString();
+        for (auto changes = below(5); changes > 0; --changes)
+            text.replace(below(text.size() + 1), below(3), pieces.at(below(pieces.size())));
+
+        const auto parts = text.split(u':');
+        const bool isValid = parts.size() >= 3 && isNumber(parts.at(0)) && isNumber(parts.at(1));
+        const auto combo = KeyCombo::fromText(text);
+        ASSERT_EQ(combo.has_value(), isValid) << round << ": " << qPrintable(text);
+        if (!combo)
+            continue;
+        ++valid;
+        EXPECT_EQ(combo->key, parts.sliced(2).join(u':')) << round;
+        EXPECT_EQ(KeyCombo::fromText(combo->text()), combo) << round << ": " << qPrintable(text);
+        EXPECT_TRUE(combo->display().endsWith(combo->key)) << round;
+    }
+    EXPECT_GT(valid, rounds / 20) << "of what cannot be read, nothing is tried";
+    EXPECT_LT(valid, rounds * 19 / 20);
 }
 
 TEST(KeyComboTest, showsModifiersInTheirOrderBeforeTheKey)
