@@ -6,8 +6,11 @@
 
 #include <gmock/gmock.h>
 
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
+#include <sys/mount.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -157,6 +160,39 @@ TEST(FilesTest, saysWhyItCannotSave)
     const auto inFile = Files::save("bytes", occupied, u"png"_s, u"Screenshot"_s, afternoon);
     ASSERT_FALSE(inFile);
     EXPECT_TRUE(inFile.error().message.contains(occupied)) << inFile.error().message.toStdString();
+}
+
+TEST(FilesTest, saysThatAFolderTakesNoFilesAndLeavesThoseInIt)
+{
+    const QTemporaryDir root;
+    const QString folder = root.filePath(u"shots"_s), old = folder + u"/old.png"_s;
+    ASSERT_TRUE(QDir().mkdir(folder));
+    const bool isRoot = geteuid() == 0; // Whom no permission keeps from writing.
+    if (isRoot && mount("none", qPrintable(folder), "tmpfs", 0, "size=64k") != 0)
+        GTEST_SKIP() << "a folder that root cannot write is a mounted one, and mounting is refused";
+    const auto open = qScopeGuard([&] {
+        chmod(qPrintable(folder), 0755);
+        if (isRoot)
+            umount(qPrintable(folder));
+    });
+    ASSERT_TRUE(Files::write(gradient({9, 9}), old, 1));
+    ASSERT_EQ(isRoot ? mount("none", qPrintable(folder), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr)
+                     : chmod(qPrintable(folder), 0555),
+        0);
+    const QString reason = isRoot ? u"Read-only file system."_s : u"Permission denied."_s;
+    const auto fresh = Files::save("bytes", folder, u"png"_s, u"Screenshot"_s, afternoon);
+    ASSERT_FALSE(fresh);
+    EXPECT_EQ(fresh.error().message,
+        u"Couldn't write “%1/Screenshot 2025-03-07 at 14.05.09.png”: %2"_s.arg(folder, reason));
+    const auto below
+        = Files::save("bytes", folder + u"/new"_s, u"png"_s, u"Screenshot"_s, afternoon);
+    ASSERT_FALSE(below);
+    EXPECT_TRUE(
+        below.error().message.endsWith(u"the folder “%1/new” does not exist."_s.arg(folder)))
+        << qPrintable(below.error().message);
+    EXPECT_FALSE(Files::write(noise({20, 20}), old, 1));
+    EXPECT_EQ(QImage(old).convertToFormat(QImage::Format_RGB32), gradient({9, 9}));
+    EXPECT_THAT(names(folder), testing::ElementsAre(u"old.png"_s));
 }
 
 TEST(FilesTest, keepsTemporaryFilesToTheUserAndCleansThem)

@@ -257,6 +257,35 @@ TEST_F(ResidentTest, runsOnceHoweverOftenItIsStarted)
         EXPECT_EQ(each->exitCode(), 0);
 }
 
+TEST_F(ResidentTest, isReplacedByTheOneThatIsStartedToTakeItsPlace)
+{
+    const auto before = saved();
+    capture(u"screen"_s);
+    auto old = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
+    ASSERT_TRUE(old);
+    ASSERT_TRUE((*old)->waitForEnd()) << "the one that the capture started is there";
+    EXPECT_EQ(pixmallow({u"capture"_s, u"screen"_s}).exitCode, 0) << "accepted, and under way";
+    std::vector<std::unique_ptr<Client>> replacements;
+    for (int i = 0; i < 2; ++i) { // As somebody does who clicks twice.
+        auto client = desktop().launch(u"pixmallow-desktop"_s, {u"--replace"_s});
+        ASSERT_TRUE(client);
+        replacements.push_back(*std::move(client));
+    }
+    const auto running = [&] {
+        return std::ranges::count_if(replacements, [](auto& each) { return each->isRunning(); });
+    };
+    ASSERT_TRUE(waitFor([&] { return running() == 1; }));
+    EXPECT_EQ(saved().size(), before.size() + 2) << "the old one finished what it was doing";
+    for (const auto& each : replacements)
+        EXPECT_TRUE(each->isRunning() || each->exitCode() == 0) << each->errors().toStdString();
+    EXPECT_EQ(capture(u"screen"_s)[u"outcome"_s], u"done"_s);
+    desktop().key("Escape"); // The one that came too late may have asked for the menu.
+    const auto window = open();
+    desktop().key("ctrl+shift+3"); // The shortcuts are the new one's now.
+    EXPECT_TRUE(waitFor([&] { return saved().size() == before.size() + 4; }));
+    EXPECT_EQ(running(), 1);
+}
+
 TEST_F(ResidentTest, finishesTheCaptureThatRunsWhenItIsTerminated)
 {
     for (const int signal : {SIGTERM, SIGINT, SIGKILL}) {
