@@ -190,7 +190,7 @@ TEST(FilesTest, saysThatAFolderTakesNoFilesAndLeavesThoseInIt)
     EXPECT_TRUE(
         below.error().message.endsWith(u"the folder “%1/new” does not exist."_s.arg(folder)))
         << qPrintable(below.error().message);
-    EXPECT_FALSE(Files::write(noise({20, 20}), old, 1));
+    EXPECT_FALSE(Files::write(gradient({20, 20}), old, 1));
     EXPECT_EQ(QImage(old).convertToFormat(QImage::Format_RGB32), gradient({9, 9}));
     EXPECT_THAT(names(folder), testing::ElementsAre(u"old.png"_s));
 }
