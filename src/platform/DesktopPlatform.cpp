@@ -5,6 +5,7 @@
 #include "platform/freedesktop/DesktopAppearance.h"
 #include "platform/freedesktop/DesktopWords.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
+#include "platform/freedesktop/ModuleFaceDetector.h"
 #include "platform/freedesktop/ModuleTextRecognizer.h"
 #include "platform/freedesktop/PulseSoundOutput.h"
 #include "platform/freedesktop/ToolkitClipboard.h"
@@ -41,6 +42,7 @@ Result<DesktopPlatform> makeDesktopPlatform()
     platform.sound = std::make_unique<PulseSoundOutput>();
     platform.words = desktopWords();
     platform.textRecognizer = makeTextRecognizer();
+    platform.faceDetector = std::make_shared<ModuleFaceDetector>();
     platform.ownWindows = std::make_unique<OwnWindowMarker>();
     return platform;
 }

@@ -5,6 +5,7 @@
 #include "platform/ActiveApplication.h"
 #include "platform/Appearance.h"
 #include "platform/Clipboard.h"
+#include "platform/FaceDetector.h"
 #include "platform/Hotkeys.h"
 #include "platform/Platform.h"
 #include "platform/PlatformWords.h"
@@ -24,6 +25,7 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<SoundOutput> sound;
     PlatformWords words;
     std::shared_ptr<TextRecognizer> textRecognizer; ///< Shared with the thread that reads.
+    std::shared_ptr<FaceDetector> faceDetector; ///< Shared with the workers that look.
     std::unique_ptr<QObject> ownWindows; ///< Marks windows of ours, so that no capture shows them.
 };
 

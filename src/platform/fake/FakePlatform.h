@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/DesktopPlatform.h"
+#include "platform/fake/FakeFaceDetector.h"
 #include "platform/fake/FakeHotkeys.h"
 #include "platform/fake/FakeScreens.h"
 
@@ -99,6 +100,7 @@ struct FakePlatform : DesktopPlatform {
         hotkeys = std::make_unique<FakeHotkeys>();
         appearance = std::make_unique<FakeAppearance>();
         sound = std::make_unique<FakeSoundOutput>();
+        faceDetector = std::make_shared<FakeFaceDetector>();
     }
 
     FakeDisplays& fakeDisplays() { return static_cast<FakeDisplays&>(*displays); }
@@ -111,5 +113,6 @@ struct FakePlatform : DesktopPlatform {
     FakeAppearance& fakeAppearance() { return static_cast<FakeAppearance&>(*appearance); }
     FakeSoundOutput& fakeSound() { return static_cast<FakeSoundOutput&>(*sound); }
     FakeWorkspace& fakeWorkspace() { return static_cast<FakeWorkspace&>(*workspace); }
+    FakeFaceDetector& fakeFaces() { return static_cast<FakeFaceDetector&>(*faceDetector); }
     FakeHotkeys& fakeHotkeys() { return static_cast<FakeHotkeys&>(*hotkeys); }
 };
