@@ -4,18 +4,12 @@
 
 #include "base/AtomicFile.h"
 #include "base/SetAside.h"
+#include "history/FilePresence.h"
 #include "history/HistoryIndex.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <dirent.h>
-#include <unistd.h>
-
-#include <memory>
-#include <string>
-#include <unordered_map>
 
 using namespace Qt::StringLiterals;
 
@@ -31,46 +25,6 @@ const QString copySuffix = u".png"_s;
 constexpr qsizetype mostStrays = 4;
 
 } // namespace
-
-/// What is in a folder, read once: to ask the system for each of many files takes four times as
-/// long.
-class HistoryFolder::Listing final {
-public:
-    explicit Listing(const QString& folder)
-        : m_prefix(QFile::encodeName(folder) + '/')
-    {
-        const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(m_prefix.constData()), closedir);
-        while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
-            m_isNamed.emplace(entry->d_name, false);
-    }
-
-    /// Whether there is such a file, here or elsewhere. One here is named from now on.
-    bool exists(const QString& path)
-    {
-        const QByteArray encoded = QFile::encodeName(path);
-        const auto slash = encoded.lastIndexOf('/');
-        if (slash + 1 != m_prefix.size() || !encoded.startsWith(m_prefix))
-            return access(encoded.constData(), F_OK) == 0;
-        const auto found = m_isNamed.find(encoded.constData() + m_prefix.size());
-        if (found == m_isNamed.end())
-            return false;
-        found->second = true;
-        return true;
-    }
-
-    QStringList unnamed() const
-    {
-        QStringList names;
-        for (const auto& [name, isNamed] : m_isNamed)
-            if (!isNamed)
-                names.append(QFile::decodeName(name.c_str()));
-        return names;
-    }
-
-private:
-    const QByteArray m_prefix;
-    std::unordered_map<std::string, bool> m_isNamed;
-};
 
 HistoryFolder::HistoryFolder(const Folders& folders)
     : m_dataFolder(folders.data)
@@ -93,11 +47,11 @@ HistoryFolder::Content HistoryFolder::open()
         m_indexIsDamaged = !setAside(m_indexPath);
         return content;
     }
-    Listing listing(m_folder);
+    FilePresence files(m_folder, *items);
     for (auto& item : *items) {
-        if (listing.exists(item.path))
+        if (files.isThere(item.path))
             continue;
-        item.path = movedPath(item, listing);
+        item.path = movedPath(item, files);
         if (item.path.isEmpty())
             content.gone.append(item.id);
         else
@@ -106,7 +60,7 @@ HistoryFolder::Content HistoryFolder::open()
     if (!content.gone.isEmpty())
         items->removeIf([](const HistoryItem& item) { return item.path.isEmpty(); });
     content.items = std::move(*items);
-    removeStrays(listing.unnamed());
+    removeStrays(files.others());
     return content;
 }
 
@@ -119,22 +73,22 @@ std::optional<QByteArray> HistoryFolder::readIndex()
     return file.error() == QFile::NoError ? std::optional(std::move(text)) : std::nullopt;
 }
 
-QString HistoryFolder::movedPath(const HistoryItem& item, Listing& listing) const
+QString HistoryFolder::movedPath(const HistoryItem& item, FilePresence& files) const
 {
     if (item.path.startsWith(m_formerFolder + u'/')) {
         const QString moved = m_dataFolder + item.path.mid(m_formerFolder.size());
-        if (listing.exists(moved))
+        if (files.isThere(moved))
             return moved;
     }
     // The user's home may have another name now.
     const QString copy = copyPath(item.id);
-    return item.cached && isHistoryId(item.id) && listing.exists(copy) ? copy : QString();
+    return item.cached && isHistoryId(item.id) && files.isThere(copy) ? copy : QString();
 }
 
-void HistoryFolder::removeStrays(const QStringList& unnamed) const
+void HistoryFolder::removeStrays(const QStringList& others) const
 {
     QStringList strays;
-    for (const QString& name : unnamed) {
+    for (const QString& name : others) {
         if (name.startsWith(u"index.json.damaged-"_s))
             return; // What it names may be wanted again.
         const bool isCopy = name.endsWith(copySuffix)

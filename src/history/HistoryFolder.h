@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class FilePresence;
+
 /// The folder "History" in the data folder: index.json and one PNG for each capture that the user
 /// saved nowhere. Only its owner can read any of it. Files elsewhere are looked at, never touched.
 class HistoryFolder final {
@@ -37,12 +39,10 @@ public:
     void removeCopy(const HistoryItem& item);
 
 private:
-    class Listing;
-
     std::optional<QByteArray> readIndex(); ///< Null where it is there, but cannot be read.
     /// Where the entry's missing file is now; empty where it is gone.
-    QString movedPath(const HistoryItem& item, Listing& listing) const;
-    void removeStrays(const QStringList& unnamed) const;
+    QString movedPath(const HistoryItem& item, FilePresence& files) const;
+    void removeStrays(const QStringList& others) const;
 
     const QString m_dataFolder;
     const QString m_formerFolder;

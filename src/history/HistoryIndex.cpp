@@ -10,7 +10,9 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string>
 #include <string_view>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -89,7 +91,8 @@ public:
         QString* target = stringOf(m_member);
         if (!target)
             return false;
-        *target = QString::fromUtf8(text, qsizetype(length));
+        *target = m_member == Member::App ? shared({text, length})
+                                          : QString::fromUtf8(text, qsizetype(length));
         return known();
     }
     bool StartArray()
@@ -176,6 +179,18 @@ private:
             return nullptr;
         }
     }
+    /// The same memory for all captures of a program: there are few of them.
+    QString shared(std::string_view text)
+    {
+        constexpr std::size_t most = 32;
+        const auto found = std::ranges::find(m_apps, text, &std::pair<std::string, QString>::first);
+        if (found != m_apps.end())
+            return found->second;
+        const QString app = QString::fromUtf8(text.data(), qsizetype(text.size()));
+        if (m_apps.size() < most)
+            m_apps.emplace_back(text, app);
+        return app;
+    }
     bool readNumber(std::string_view text)
     {
         switch (m_member) {
@@ -194,6 +209,7 @@ private:
 
     QList<HistoryItem> m_items;
     HistoryItem m_item;
+    std::vector<std::pair<std::string, QString>> m_apps;
     unsigned m_seen = 0; // One bit per known member.
     Member m_member = Member::Id; // Whose value comes next.
     int m_depth = 0; // Of arrays and objects around the next value.

@@ -5,14 +5,14 @@
 #include "base/AtomicFile.h"
 #include "base/Folders.h"
 #include "capture/Files.h"
+#include "history/FolderListing.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QSet>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -107,18 +107,19 @@ void ThumbnailFiles::remove(const QString& id) const
 
 void ThumbnailFiles::removeAllBut(const QList<HistoryItem>& items) const
 {
-    const auto names = QDir(m_folder).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
-    if (names.isEmpty())
-        return;
-    QSet<QString> kept;
-    kept.reserve(items.size());
-    for (const auto& item : items)
-        kept.insert(item.id);
-    for (const QString& name : names) {
-        const QString id = QFileInfo(name).completeBaseName();
-        if (isUnfinishedFile(name) || (isHistoryId(id) && !kept.contains(id)))
-            QFile::remove(m_folder + u'/' + name);
+    QStringList stale;
+    QMultiHash<QString, QString> names; // By id: fewer than entries, as a rule.
+    for (const QString& name : FolderListing::read(m_folder).others()) {
+        const QString id = name.left(name.lastIndexOf(u'.'));
+        if (isUnfinishedFile(name))
+            stale.append(name);
+        else if (isHistoryId(id))
+            names.insert(id, name);
     }
+    for (const auto& item : items)
+        names.remove(item.id);
+    for (const QString& name : stale + names.values())
+        QFile::remove(m_folder + u'/' + name);
 }
 
 QString ThumbnailFiles::pathOf(const QString& id, const QString& suffix) const

@@ -213,6 +213,37 @@ TEST_F(HistoryStoreTest, leavesOutEntriesWithoutAFileAtStart)
     EXPECT_TRUE(comesTrue([&] { return gone == QStringList({lost, lostCopy}); }));
 }
 
+TEST_F(HistoryStoreTest, findsTheFilesOfManyEntriesAmongOthers)
+{
+    constexpr int many = 120; // Enough for their folder to be read at once.
+    prefs().set(Prefs::keys.historyMax, 1000);
+    for (const int others : {0, 400}) { // So many that it is not.
+        store().clear();
+        QDir(pictures()).removeRecursively();
+        QStringList expected;
+        for (int i = 0; i < many; ++i)
+            expected.prepend(addSaved(u"%1 “ü”.png"_s.arg(i)));
+        const QString kept = pictures() + u"/elsewhere.png"_s;
+        put(kept, "the user's");
+        stop();
+        for (int i = 0; i < others; ++i)
+            put(pictures() + u"/other %1"_s.arg(i), {});
+        const auto path = [&](int i) { return pictures() + u"/%1 “ü”.png"_s.arg(i); };
+        QFile::remove(path(7)); // Gone, moved and linked to, and a link that leads nowhere.
+        QFile::remove(path(8));
+        ASSERT_TRUE(QFile::link(kept, path(8)));
+        QFile::remove(path(9));
+        ASSERT_TRUE(QFile::link(root() + u"/nowhere"_s, path(9)));
+        expected.removeAt(many - 1 - 7);
+        expected.removeAt(many - 1 - 9);
+        QFile folder(pictures());
+        if (others > 0) // Whose names may not be known, though files in it may be used.
+            folder.setPermissions(QFile::WriteOwner | QFile::ExeOwner);
+        EXPECT_EQ(idsOf(store()), expected) << others << " other files";
+        folder.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+}
+
 TEST_F(HistoryStoreTest, takesOverTheFolderOfTheFormerName)
 {
     const QString copied = addCopied(), saved = addSaved(u"a.png"_s);
