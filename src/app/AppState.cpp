@@ -301,6 +301,16 @@ void AppState::editLast()
         pass(m_stages.showHistory);
 }
 
+void AppState::showHistory()
+{
+    pass(m_stages.showHistory);
+}
+
+void AppState::showGallery()
+{
+    pass(m_stages.showGallery);
+}
+
 void AppState::fail(const ToastMessage& toast)
 {
     m_report.outcome = CaptureReport::Outcome::Failed;

@@ -47,6 +47,9 @@ public:
     /// The last capture in the editor, or the history when there is none.
     void editLast();
 
+    void showHistory();
+    void showGallery();
+
     const std::optional<FinishedCapture>& last() const { return m_last; }
     const std::optional<Application>& lastOtherApp() const { return m_lastOtherApp; }
     bool isBusy() const { return m_busy; }

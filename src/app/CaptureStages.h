@@ -28,5 +28,6 @@ struct CaptureStages {
     std::function<void(FinishedCapture)> openEditor;
     std::function<void(FinishedCapture, QString info)> showPreview;
     std::function<void()> showHistory;
+    std::function<void()> showGallery; ///< Achievements, streaks and the pet.
     std::function<void(ToastMessage)> showToast;
 };

@@ -96,6 +96,8 @@ struct PrefKeys final : PrefTable {
     PrefKey<bool> captureOpenMenus {*this, "captureOpenMenus", false, WhenAbsent};
     /// Whether the user has been shown how to begin.
     PrefKey<bool> welcomed {*this, "welcomed", false, WhenAbsent};
+    /// Whether the text of captures is recognised in idle time, for the history to search it.
+    PrefKey<bool> findByText {*this, "findByText", true, WhenAbsent};
 
     /// The shortcut of a capture kind, given as its text such as "region"; null for any other text.
     const PrefKey<QString>* hotkey(QStringView kind) const;
