@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double mostCells = 3600;
+constexpr double mostCells = 3000;
 constexpr double leastCell = 8; ///< Points.
 constexpr double blownAside = 210; ///< Points at most.
 constexpr double blownUp = 150;
@@ -55,15 +55,15 @@ Crumbling::Crumbling(const FxStage& stage, double duration)
         = std::max(leastCell, std::sqrt(m_area.width() * m_area.height() / mostCells));
     const int columns = std::max(1, int(std::ceil(m_area.width() / side)));
     const int rows = std::max(1, int(std::ceil(m_area.height() / side)));
-    m_cell = {side, side};
     FxDice dice(stage.seed);
     const double perPoint = picture.width() / m_area.width();
     m_cells.reserve(std::size_t(columns) * std::size_t(rows));
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < columns; ++column) {
-            const QRectF cell = QRectF(m_area.topLeft() + QPointF(column, row) * side, m_cell);
+            const QRectF cell
+                = QRectF(m_area.topLeft() + QPointF(column, row) * side, QSizeF(side, side));
             const QRectF inPicture(
-                (cell.topLeft() - m_area.topLeft()) * perPoint, m_cell * perPoint);
+                (cell.topLeft() - m_area.topLeft()) * perPoint, cell.size() * perPoint);
             addCell(cell & m_area, meanColour(picture, inPicture), dice);
         }
 }
@@ -78,7 +78,7 @@ void Crumbling::addCell(QRectF cell, QRgb colour, FxDice& dice)
         + 0.05 * std::sin(fromTop * 9 + fromRight * 4) + dice.between(0, 0.16);
     const double leaves = m_duration * (0.04 + 0.6 * std::clamp(front, 0.0, 1.0));
     const double life = std::min(m_duration * dice.between(0.3, 0.46), m_duration - leaves);
-    m_cells.push_back({cell.center(), colour, leaves, life,
+    m_cells.push_back({cell.center(), cell.size(), colour, leaves, life,
         {blownAside * dice.between(0.25, 1.35), -blownUp * dice.between(-0.12, 1)},
         dice.between(2, 14), dice.between(0, fullCircle)});
 }
@@ -92,13 +92,13 @@ FxSprites Crumbling::at(double seconds) const
             continue;
         if (age < 0) {
             const double there = 1 + age / (appearing * m_duration);
-            flying.push_back({FxSprite::Shape::Square, cell.centre, m_cell, 0,
+            flying.push_back({FxSprite::Shape::Square, cell.centre, cell.size, 0,
                 faded(cell.colour, easeInOut(there))});
             continue;
         }
         const double closed = age / (closing * m_duration);
         if (closed < 1)
-            holes.push_back({FxSprite::Shape::Square, cell.centre, m_cell, 0,
+            holes.push_back({FxSprite::Shape::Ground, cell.centre, cell.size, 0,
                 faded(m_shade, holeDarkness * (1 - closed) * (1 - closed))});
         const double flown = age / cell.life;
         if (flown >= 1)
@@ -106,8 +106,8 @@ FxSprites Crumbling::at(double seconds) const
         const double speed = flown * between(flown, 1, 0.35);
         const QPointF centre = cell.centre + cell.drift * speed
             + QPointF(0, cell.wave * speed * std::sin(cell.phase + 7 * flown));
-        flying.push_back({FxSprite::Shape::Square, centre, m_cell * (1 - 0.7 * easeInOut(flown)), 0,
-            faded(cell.colour, 1 - easeIn(flown))});
+        flying.push_back({FxSprite::Shape::Square, centre, cell.size * (1 - 0.7 * easeInOut(flown)),
+            0, faded(cell.colour, 1 - easeIn(flown))});
     }
     holes.insert(holes.end(), flying.begin(), flying.end());
     return holes;

@@ -16,6 +16,7 @@ public:
 private:
     struct Cell {
         QPointF centre;
+        QSizeF size;
         QRgb colour;
         double leaves, life; ///< Seconds.
         QPointF drift; ///< Points over its life.
@@ -24,7 +25,6 @@ private:
     void addCell(QRectF cell, QRgb colour, class FxDice& dice);
 
     std::vector<Cell> m_cells;
-    QSizeF m_cell; ///< Points.
     QRectF m_area;
     QRectF m_bounds;
     double m_duration;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int glowSide = 64; ///< Pixels; larger ones are stretched, which a glow does not show.
 constexpr int smallestPicture = 96; ///< Pixels of the longer side.
+constexpr double mostSmoothed = 500'000; ///< Pixels.
 constexpr double pictureCorner = 0.035; ///< Radius, of the shorter side.
 
 /// Every pixel the mean of four.
@@ -96,14 +97,8 @@ FxPainter::FxPainter(const QImage& picture)
 void FxPainter::paint(QPainter& painter, const FxSprites& sprites)
 {
     painter.setPen(Qt::NoPen);
-    // There is nothing below the first one, which may fill the whole screen.
-    const bool fills = !sprites.empty() && sprites.front().shape == FxSprite::Shape::Square;
-    if (fills)
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
-    for (const auto& sprite : sprites) {
+    for (const auto& sprite : sprites)
         paint(painter, sprite);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    }
 }
 
 void FxPainter::paint(QPainter& painter, const FxSprite& sprite)
@@ -111,10 +106,15 @@ void FxPainter::paint(QPainter& painter, const FxSprite& sprite)
     using Shape = FxSprite::Shape;
     const QColor colour = QColor::fromRgba(sprite.colour);
     const QRectF box(QPointF(-sprite.size.width() / 2, -sprite.size.height() / 2), sprite.size);
-    if (sprite.shape == Shape::Square) {
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        return painter.fillRect(box.translated(sprite.centre), colour);
+    if (sprite.shape == Shape::Square || sprite.shape == Shape::Ground) {
+        if (painter.testRenderHint(QPainter::Antialiasing)) // To set what is set costs as well.
+            painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setCompositionMode(sprite.shape == Shape::Ground
+                ? QPainter::CompositionMode_Source
+                : QPainter::CompositionMode_SourceOver);
+        return painter.fillRect(sprite.area(), colour);
     }
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     if (sprite.shape == Shape::Picture)
         return paintPicture(painter, sprite);
     if (sprite.shape == Shape::Glow) {
@@ -172,12 +172,12 @@ void FxPainter::paintPicture(QPainter& painter, const FxSprite& sprite)
     std::size_t level = 0;
     while (level + 1 < m_pictures.size() && m_pictures[level + 1].width() >= wanted)
         ++level;
-    const QRectF box(
-        sprite.centre - QPointF(sprite.size.width(), sprite.size.height()) / 2, sprite.size);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // While it is large it moves too fast for its pixels to be seen.
+    const double pixels = wanted * wanted * sprite.size.height() / sprite.size.width();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, pixels < mostSmoothed);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setOpacity(qAlpha(sprite.colour) / 255.0);
-    painter.drawImage(box, m_pictures[level]);
+    painter.drawImage(sprite.area(), m_pictures[level]);
     painter.setOpacity(1);
 }
 

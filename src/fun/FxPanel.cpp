@@ -18,6 +18,12 @@ QSize pointsOf(const DisplayInfo& display)
     return {points(display.native.width()), points(display.native.height())};
 }
 
+bool isCovered(const QRegion& region, const FxSprites& sprites)
+{
+    return !sprites.empty() && sprites.front().shape == FxSprite::Shape::Ground
+        && sprites.front().area().contains(region.boundingRect());
+}
+
 qint64 pixelsOf(const QRegion& points, double scale)
 {
     double area = 0;
@@ -79,7 +85,9 @@ qint64 FxPanel::paintAt(double seconds)
     }
     if (changed.isEmpty())
         return 0;
-    m_store.beginPaint(changed); // Clears it.
+    // What is told here is cleared, which a sprite that covers all of it can do without.
+    const QRect corner(changed.boundingRect().topLeft(), QSize(1, 1));
+    m_store.beginPaint(isCovered(changed, sprites) ? QRegion(corner) : changed);
     QPainter painter(m_store.paintDevice());
     m_painter.paint(painter, sprites);
     painter.end();
@@ -95,9 +103,7 @@ void FxPanel::cutToDrawn(const FxSprites& sprites)
     QRegion drawn;
     for (const auto& sprite : sprites)
         if (sprite.shape == FxSprite::Shape::Square && qAlpha(sprite.colour) == 255)
-            drawn += QRectF(
-                sprite.centre - QPointF(sprite.size.width(), sprite.size.height()) / 2, sprite.size)
-                         .toAlignedRect();
+            drawn += sprite.area().toAlignedRect();
     if (drawn.isEmpty())
         hide(); // To the toolkit an empty mask is none.
     else

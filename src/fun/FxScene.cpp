@@ -38,7 +38,7 @@ public:
         const QRgb colour = faded(0xffffffff, brightest * fallingOff(seconds, m_duration));
         if (qAlpha(colour) == 0)
             return {};
-        return {{FxSprite::Shape::Square, m_area.center(), m_area.size(), 0, colour}};
+        return {{FxSprite::Shape::Ground, m_area.center(), m_area.size(), 0, colour}};
     }
     QRectF bounds() const override { return m_area; }
 

@@ -5,6 +5,11 @@
 #include <algorithm>
 #include <cmath>
 
+QRectF FxSprite::area() const
+{
+    return {centre - QPointF(size.width(), size.height()) / 2, size};
+}
+
 QRectF FxSprite::box() const
 {
     const double sine = std::abs(std::sin(turn)), cosine = std::abs(std::cos(turn));

@@ -11,6 +11,7 @@
 struct FxSprite {
     enum class Shape {
         Square, ///< On whole pixels, as large areas of one colour are cheap then.
+        Ground, ///< Likewise, where nothing lies below: half the work.
         Slip, ///< Of paper, turned.
         Disc, ///< Likewise.
         Curl, ///< A wavy strip along its width.
@@ -20,6 +21,8 @@ struct FxSprite {
         Shade, ///< A soft shadow around an empty box.
         Picture, ///< What was captured.
     };
+
+    QRectF area() const; ///< Before it is turned.
 
     Shape shape = Shape::Square;
     QPointF centre;
