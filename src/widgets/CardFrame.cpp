@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 
-#include <cmath>
+#include <algorithm>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -16,17 +16,22 @@ namespace {
 
 constexpr ShadowStyle shadowStyle {32, 10, 1};
 
-/// Of the smallest card whose corners do not meet: it has all that a shadow of any size consists
-/// of.
-double sampleSide(double radius)
+/// How far into a card its corner makes a difference to the shadow, in points.
+double cornerReach(double radius)
 {
-    return 2 * (shadowStyle.blur + radius) + 2;
+    return shadowStyle.blur + radius;
 }
 
-QImage cardShape(double radius, double scale)
+/// The smallest card whose corners do not meet has all that the shadow of a larger one consists of.
+QSizeF sampleCard(QSizeF card, double radius)
 {
-    const int side = int(std::ceil(sampleSide(radius) * scale));
-    QImage shape(side, side, QImage::Format_ARGB32_Premultiplied);
+    const double side = 2 * cornerReach(radius) + 2;
+    return card.boundedTo(QSizeF(side, side));
+}
+
+QImage cardShape(QSizeF card, double radius, double scale)
+{
+    QImage shape((card * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     shape.fill(Qt::transparent);
     QPainter painter(&shape);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -37,13 +42,17 @@ QImage cardShape(double radius, double scale)
 }
 
 /// The shadow around a card, without what the card covers. Painted once for each kind.
-QPixmap shadowSample(double radius, const QColor& colour, double scale)
+QPixmap shadowSample(QSizeF card, double radius, const QColor& colour, double scale)
 {
-    const QString key = u"card-shadow-%1-%2-%3"_s.arg(colour.rgba(), 8, 16).arg(radius).arg(scale);
+    const QString key = u"card-shadow-%1-%2-%3-%4-%5"_s.arg(colour.rgba(), 8, 16)
+                            .arg(radius)
+                            .arg(scale)
+                            .arg(card.width())
+                            .arg(card.height());
     QPixmap sample;
     if (QPixmapCache::find(key, &sample))
         return sample;
-    const QImage shape = cardShape(radius, scale);
+    const QImage shape = cardShape(card, radius, scale);
     Bitmap window(shape.size(), PixelFormat::Argb32Premultiplied);
     for (int y = 0; y < shape.height(); ++y)
         std::memcpy(window.row(y), shape.constScanLine(y), std::size_t(shape.width()) * 4);
@@ -84,23 +93,19 @@ void CardFrame::paintShadow(QPainter& painter, QRectF card, double radius, const
 {
     // The sample's corners as they are, its middle stretched.
     const double scale = painter.device()->devicePixelRatioF();
-    const QPixmap sample = shadowSample(radius, colour, scale);
+    const QPixmap sample = shadowSample(sampleCard(card.size(), radius), radius, colour, scale);
     const QMargins margins = shadowMargins();
     const QRectF outer = card.marginsAdded(margins);
-    const double corner = radius + shadowStyle.blur;
-    const double left = margins.left() + corner;
-    const double top = margins.top() + corner;
-    const double right = margins.right() + corner;
-    const double bottom = margins.bottom() + corner;
+    const double across = std::min(cornerReach(radius), card.width() / 2);
+    const double along = std::min(cornerReach(radius), card.height() / 2);
+    const double left = margins.left() + across;
+    const double top = margins.top() + along;
+    const double right = margins.right() + across;
+    const double bottom = margins.bottom() + along;
     const double sampleRight = sample.width() / scale - right;
     const double sampleBottom = sample.height() / scale - bottom;
-    // On a smaller card than the sample the corners are squeezed.
-    const double across = std::min(corner, card.width() / 2);
-    const double along = std::min(corner, card.height() / 2);
-    const double xs[] {
-        0, margins.left() + across, outer.width() - margins.right() - across, outer.width()};
-    const double ys[] {
-        0, margins.top() + along, outer.height() - margins.bottom() - along, outer.height()};
+    const double xs[] {0, left, outer.width() - right, outer.width()};
+    const double ys[] {0, top, outer.height() - bottom, outer.height()};
     const double sampleXs[] {0, left, sampleRight, sample.width() / scale};
     const double sampleYs[] {0, top, sampleBottom, sample.height() / scale};
     for (int row = 0; row < 3; ++row)
