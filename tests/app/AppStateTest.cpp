@@ -304,8 +304,7 @@ TEST_F(AppStateTest, copiesRecognisedText)
         purpose = question.purpose;
         return Pending<RegionResult>::answered(RegionResult {0, QRectF(0, 0, 30, 20)});
     };
-    stages.recogniseText
-        = [&](const Shot&) { return Pending<OCR::Result>::answered(recognised); };
+    stages.recogniseText = [&](const Shot&) { return Pending<OCR::Result>::answered(recognised); };
     prefs.set(Prefs::keys.includeCursor, true);
     const auto report = capture(CaptureKind::Text);
     EXPECT_EQ(purpose, u"Select the text to copy"_s);
