@@ -47,8 +47,8 @@ private:
     Fun m_fun;
     Skins m_skins;
     Themes m_themes;
-    ApplicationLook m_look {m_themes};
     const Surroundings m_surroundings;
+    ApplicationLook m_look {m_surroundings};
     SynthSounds m_synthesisedSounds;
     Sounds m_sounds;
     OverlayPool m_overlayPool;

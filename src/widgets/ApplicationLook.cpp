@@ -2,24 +2,57 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/ApplicationLook.h"
 
+#include "widgets/style/HouseStyle.h"
+
 #include <QApplication>
 #include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
 
-ApplicationLook::ApplicationLook(const Themes& themes)
-    : m_themes(themes)
+namespace {
+
+MenuStyle::Corners corners(const SurfaceTraits& surfaces)
 {
-    QApplication::setStyle(
-        QStyleFactory::create(u"Fusion"_s)); // It takes all colours from palettes.
-    connect(&m_themes, &Themes::changed, this, &ApplicationLook::adopt);
+    return surfaces.blendsWindows() ? MenuStyle::Corners::Round : MenuStyle::Corners::Cut;
+}
+
+/// None of them is a kind of another, for the toolkit takes the letters of any kind that fits. A
+/// tooltip is a label, but its exact kind goes before.
+void setLetters(const Theme& theme)
+{
+    const QFont body = theme.font(TextStyle::Body);
+    for (const char* kind : {"QMenu", "QMenuBar", "QToolButton", "QCheckBox", "QRadioButton",
+             "QComboBox", "QLineEdit", "QAbstractSpinBox", "QAbstractItemView", "QLabel",
+             "QTextEdit", "QPlainTextEdit", "QTabBar", "QProgressBar"})
+        QApplication::setFont(body, kind);
+    QApplication::setFont(theme.font(TextStyle::Headline), "QPushButton");
+    QApplication::setFont(theme.font(TextStyle::Callout), "QTipLabel");
+}
+
+} // namespace
+
+ApplicationLook::ApplicationLook(const Surroundings& surroundings)
+    : m_surroundings(surroundings)
+    , m_style(new HouseStyle(surroundings.themes.current(), corners(surroundings.surfaces)))
+{
+    QApplication::setStyle(m_style);
+    connect(&m_surroundings.themes, &Themes::changed, this, &ApplicationLook::adopt);
+    connect(
+        &m_surroundings.surfaces, &SurfaceTraits::blendingChanged, this, &ApplicationLook::adopt);
     adopt();
+}
+
+ApplicationLook::~ApplicationLook()
+{
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
 }
 
 void ApplicationLook::adopt()
 {
-    const Theme& theme = m_themes.current();
+    const Theme& theme = m_surroundings.themes.current();
+    m_style->wear(theme, corners(m_surroundings.surfaces));
     QApplication::setPalette(theme.palette());
-    QApplication::setFont(theme.font(TextStyle::Body), "QMenu");
-    QApplication::setFont(theme.font(TextStyle::Callout), "QTipLabel");
+    setLetters(theme);
+    for (QWidget* widget : QApplication::allWidgets())
+        widget->update(); // A palette that stayed the same repaints nothing.
 }

@@ -6,7 +6,7 @@
 #include "fun/Fun.h"
 #include "platform/fake/FakePlatform.h"
 #include "platform/fake/FakeSurfaceTraits.h"
-#include "widgets/FloatingPanel.h"
+#include "widgets/ApplicationLook.h"
 
 #include <QTemporaryDir>
 
@@ -24,6 +24,7 @@ struct GalleryWorld {
     Fun fun;
     Skins skins;
     Themes themes;
+    ApplicationLook look {{themes, surfaces}};
 
     static QImage picture(QSize size); ///< Something like a screen with windows.
 };

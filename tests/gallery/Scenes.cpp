@@ -4,7 +4,7 @@
 #include "capture/PermissionView.h"
 #include "capture/ToastView.h"
 #include "preview/PreviewView.h"
-#include "tests/gallery/Gallery.h"
+#include "tests/gallery/ControlScenes.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
 #include "widgets/TextLabel.h"
@@ -99,6 +99,8 @@ const QList<Scene>& scenes()
     static const QList<Scene> list {
         {u"buttons"_s, Scene::Ground::Window, buttons},
         {u"letters"_s, Scene::Ground::Window, letters},
+        {u"controls"_s, Scene::Ground::Window, ControlScenes::controls},
+        {u"menu"_s, Scene::Ground::None, ControlScenes::menu},
         {u"preview"_s, Scene::Ground::Card,
             [](GalleryWorld& world) {
                 return preview(world, {2880, 1800}, u"comet"_s, {u"🐣"_s, u"slay"_s, 10});
