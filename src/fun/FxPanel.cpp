@@ -18,12 +18,6 @@ QSize pointsOf(const DisplayInfo& display)
     return {points(display.native.width()), points(display.native.height())};
 }
 
-bool isCovered(const QRegion& region, const FxSprites& sprites)
-{
-    return !sprites.empty() && sprites.front().shape == FxSprite::Shape::Ground
-        && sprites.front().area().contains(region.boundingRect());
-}
-
 qint64 pixelsOf(const QRegion& points, double scale)
 {
     double area = 0;
@@ -56,62 +50,68 @@ FxPanel::FxPanel(SurfaceTraits& surfaces, const DisplayInfo& display,
 
 void FxPanel::play()
 {
-    if (m_surfaces.blendsWindows())
-        setMask(reach()); // The less of the screen has to be blended, the better.
-    else
-        cutToDrawn(m_scene->at(0));
+    cutTo(m_scene->at(0));
     show();
     m_clock.start();
     paintAt(0);
 }
 
-QRegion FxPanel::reach() const
-{
-    return QRegion(m_scene->bounds().toAlignedRect()) & QRect({}, pointsOf(m_display));
-}
-
 qint64 FxPanel::paintAt(double seconds)
 {
     const FxSprites sprites = m_scene->at(seconds);
+    if (!m_surfaces.blendsWindows())
+        cutTo(sprites);
     m_drawing.clear();
     for (const auto& sprite : sprites)
         m_drawing.add(sprite.box());
     m_drawn.add(m_drawing);
-    QRegion changed = m_drawn.region() & reach();
+    QRegion changed = m_drawn.region() & m_shown;
     std::swap(m_drawn, m_drawing);
     if (std::exchange(m_fresh, false)) {
         m_store.resize(pointsOf(m_display));
-        changed = reach();
+        changed = m_shown;
     }
     if (changed.isEmpty())
         return 0;
-    // What is told here is cleared, which a sprite that covers all of it can do without.
+    // What is told here is cleared, which takes longer than to paint over it.
     const QRect corner(changed.boundingRect().topLeft(), QSize(1, 1));
-    m_store.beginPaint(isCovered(changed, sprites) ? QRegion(corner) : changed);
+    m_store.beginPaint(isPaintedOver(changed, sprites) ? QRegion(corner) : changed);
     QPainter painter(m_store.paintDevice());
     m_painter.paint(painter, sprites);
     painter.end();
     m_store.endPaint();
-    if (!m_surfaces.blendsWindows())
-        cutToDrawn(sprites);
     m_store.flush(changed);
     return pixelsOf(changed, m_display.scale);
 }
 
-void FxPanel::cutToDrawn(const FxSprites& sprites)
+bool FxPanel::isPaintedOver(const QRegion& changed, const FxSprites& sprites) const
+{
+    if (!m_surfaces.blendsWindows()) // Cut to what is drawn.
+        return true;
+    return !sprites.empty() && sprites.front().shape == FxSprite::Shape::Ground
+        && sprites.front().area().contains(changed.boundingRect());
+}
+
+/// To where anything is ever drawn: the less of the screen has to be blended, the better. Where
+/// nothing is blended, to what is drawn now.
+void FxPanel::cutTo(const FxSprites& sprites)
 {
     QRegion drawn;
-    for (const auto& sprite : sprites)
-        if (sprite.shape == FxSprite::Shape::Square && qAlpha(sprite.colour) == 255)
-            drawn += sprite.area().toAlignedRect();
-    if (drawn.isEmpty())
+    if (m_surfaces.blendsWindows())
+        drawn = m_scene->bounds().toAlignedRect();
+    else
+        for (const auto& sprite : sprites)
+            if (sprite.shape == FxSprite::Shape::Square && qAlpha(sprite.colour) == 255)
+                drawn += sprite.area().toAlignedRect();
+    m_shown = drawn & QRect({}, pointsOf(m_display));
+    if (m_shown.isEmpty())
         hide(); // To the toolkit an empty mask is none.
     else
-        setMask(drawn & QRect({}, pointsOf(m_display)));
+        setMask(m_shown);
 }
 
 void FxPanel::exposeEvent(QExposeEvent*)
 {
     if (isExposed() && !m_fresh)
-        m_store.flush(reach());
+        m_store.flush(m_shown);
 }

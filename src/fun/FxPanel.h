@@ -28,8 +28,8 @@ protected:
     void exposeEvent(QExposeEvent* event) override;
 
 private:
-    void cutToDrawn(const FxSprites& sprites);
-    QRegion reach() const; ///< Where anything is ever drawn, in points of the window.
+    bool isPaintedOver(const QRegion& changed, const FxSprites& sprites) const;
+    void cutTo(const FxSprites& sprites);
 
     SurfaceTraits& m_surfaces;
     const DisplayInfo m_display;
@@ -37,6 +37,7 @@ private:
     FxPainter m_painter;
     QBackingStore m_store;
     FrameClock m_clock;
+    QRegion m_shown; ///< What the window is cut to, in its points.
     FxTiles m_drawn, m_drawing; ///< By the last frame and by the one being painted.
     bool m_fresh = true; ///< Nothing is in the store yet.
 };
