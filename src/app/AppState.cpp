@@ -203,6 +203,7 @@ QCoro::Task<Result<Shot>> AppState::captureFrontWindow()
 
 QCoro::Task<> AppState::finish(Shot shot)
 {
+    const auto encoding = pngOf(shot); // On its way while what follows is seen and heard.
     pass(m_stages.playShutter);
     if (shot.area)
         pass(m_stages.playEffect, *shot.area, shot.image);
@@ -211,9 +212,7 @@ QCoro::Task<> AppState::finish(Shot shot)
     const bool copies = m_prefs.get(Prefs::keys.copyToClipboard);
     const bool saves = m_prefs.get(Prefs::keys.autoSave);
     const QString format = m_prefs.imageFormat();
-    QByteArray png;
-    if (copies || m_stages.addToHistory || (saves && format == u"png"_s))
-        png = co_await encoded(shot, u"png"_s);
+    const QByteArray png = co_await encoding;
 
     FinishedCapture finished {shot};
     QStringList notes;
@@ -236,6 +235,15 @@ QCoro::Task<> AppState::finish(Shot shot)
     m_last = finished;
     Q_EMIT lastChanged();
     present(finished, notes);
+}
+
+/// Of what anybody takes as PNG; empty if nobody does.
+QCoro::Task<QByteArray> AppState::pngOf(Shot shot)
+{
+    if (m_prefs.get(Prefs::keys.copyToClipboard) || m_stages.addToHistory
+        || (m_prefs.get(Prefs::keys.autoSave) && m_prefs.imageFormat() == u"png"_s))
+        co_return co_await encoded(shot, u"png"_s);
+    co_return QByteArray();
 }
 
 /// Encodes off the main thread, so that the effect keeps playing; empty if it fails.

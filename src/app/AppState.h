@@ -67,6 +67,7 @@ private:
     QCoro::Task<Result<Shot>> captureFrontWindow();
     QCoro::Task<> finish(Shot shot);
     QCoro::Task<> copyText(Shot shot);
+    QCoro::Task<QByteArray> pngOf(Shot shot);
     QCoro::Task<QByteArray> encoded(Shot shot, QString format);
     QCoro::Task<QString> saved(QByteArray bytes, QString format);
     void present(const FinishedCapture& finished, const QStringList& notes);
