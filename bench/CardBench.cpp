@@ -21,6 +21,7 @@ namespace {
 constexpr Limit shownLimit {50, 50}; ///< Milliseconds until a card is painted.
 constexpr Limit frameLimit {3, 3}; ///< Milliseconds of one frame of a border.
 constexpr int frames = 60;
+constexpr int settlingFrames = 5; ///< While the card appears.
 
 double cpuMilliseconds()
 {
@@ -28,6 +29,29 @@ double cpuMilliseconds()
     ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
+
+/// Sees the pictures of cards being painted.
+class Painted final : public QObject {
+public:
+    Painted() { qApp->installEventFilter(this); }
+
+    /// Until there are so many more.
+    void wait(int count)
+    {
+        for (const int enough = m_count + count; m_count < enough;)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
+private:
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && qobject_cast<PreviewThumbnail*>(receiver))
+            ++m_count;
+        return false;
+    }
+
+    int m_count = 0;
+};
 
 PreviewThumbnail* thumbnail()
 {
@@ -39,32 +63,30 @@ PreviewThumbnail* thumbnail()
 
 void measure(PreviewPanel& panel, Prefs& prefs, const Shot& shot, int count)
 {
+    Painted painted;
     Rounds showing;
     showing.add(u"card"_s, [&] {
         panel.show({shot}, u"3840 × 2160"_s);
-        QApplication::sendPostedEvents();
-        thumbnail()->window()->repaint();
+        painted.wait(1);
     });
     showing.run(count);
     std::printf("card of 3840 x 2160, until painted: cpu ms %s, p95 %.1f\n",
         qPrintable(judged(showing.medianCpu(u"card"_s), shownLimit)), showing.cpu95(u"card"_s));
 
+    const QStringList effects {u"comet"_s, u"pulse"_s, u"spin"_s};
     Rounds borders;
-    for (const QString& effect : {u"comet"_s, u"pulse"_s, u"spin"_s}) {
-        prefs.set(Prefs::keys.previewEffect, effect);
-        borders.add(effect, [&, effect] {
-            static QString shown;
-            if (shown != effect) { // Not part of a frame, and there are many.
-                prefs.set(Prefs::keys.previewEffect, effect);
-                panel.show({shot}, u"3840 × 2160"_s);
-                shown = effect;
-            }
+    for (const QString& effect : effects)
+        borders.addMeasured(effect, [&, effect] {
+            prefs.set(Prefs::keys.previewEffect, effect);
+            panel.show({shot}, u"3840 × 2160"_s);
+            painted.wait(settlingFrames);
+            const double before = cpuMilliseconds();
             for (int frame = 0; frame < frames; ++frame)
                 thumbnail()->repaint(thumbnail()->borderRegion());
+            return Rounds::Sample {cpuMilliseconds() - before, 0};
         });
-    }
     borders.run(count);
-    for (const QString& effect : {u"comet"_s, u"pulse"_s, u"spin"_s})
+    for (const QString& effect : effects)
         std::printf("border %s, a frame: cpu ms %s\n", qPrintable(effect),
             qPrintable(judged(borders.medianCpu(effect) / frames, frameLimit)));
 

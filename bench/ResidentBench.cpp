@@ -4,6 +4,7 @@
 #include "base/ControlClient.h"
 #include "base/Descriptor.h"
 #include "base/PngWriter.h"
+#include "base/Prefs.h"
 #include "bench/Limit.h"
 #include "bench/Rounds.h"
 #include "bench/ScreenContent.h"
@@ -124,7 +125,7 @@ void encode(const Bitmap& bitmap)
 
 struct CaptureCosts {
     Rounds::Sample untilClosed; ///< From the request until the file was closed.
-    Rounds::Sample afterwards; ///< History and thumbnail; until all is quiet.
+    Rounds::Sample afterwards; ///< Effect, history and thumbnail; until all is quiet.
 };
 
 Result<CaptureCosts> capture(const VirtualDesktop& desktop, const Folders& folders, qint64 pid)
@@ -199,8 +200,8 @@ void print(const Rounds& rounds, const QString& name)
         qPrintable(name), qPrintable(judged(rounds.medianCpu(name), captureMilliseconds)),
         rounds.cpu95(name), rounds.medianWall(name), rounds.wall95(name));
     const QString afterwards = name + u" afterwards"_s;
-    std::printf("%s, history and thumbnail after that: cpu ms %.1f, p95 %.1f\n", qPrintable(name),
-        rounds.medianCpu(afterwards), rounds.cpu95(afterwards));
+    std::printf("%s, effect, history and thumbnail after that: cpu ms %.1f, p95 %.1f\n",
+        qPrintable(name), rounds.medianCpu(afterwards), rounds.cpu95(afterwards));
 }
 
 /// A program that has just started, again and again.
@@ -286,6 +287,11 @@ int main(int argc, char** argv)
         return fail(desktop.error().message);
     (*desktop)->enter();
     (*desktop)->setRootPicture(picture);
+    const Folders folders = Folders::ofUser();
+    Prefs prefs(folders, Prefs::Watch::Nothing);
+    prefs.set(Prefs::keys.afterCapture, u"none"_s); // What the card costs, CardBench tells.
+    if (const auto written = prefs.flush(); !written)
+        return fail(written.error().message);
     std::printf("%d x %d, %d rounds\n", picture.width(), picture.height(), rounds);
     auto done = measureStarts(**desktop, rounds);
     if (done)
