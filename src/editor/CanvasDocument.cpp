@@ -36,6 +36,13 @@ void CanvasDocument::selectTopmost(QPointF at, double tolerance)
         }
 }
 
+void CanvasDocument::adopt(const std::vector<Mark::Copy>& annotations, Adopted adopted)
+{
+    m_selected.reset();
+    setAnnotations(annotations);
+    m_dirty = m_dirty || adopted == Adopted::Unsaved;
+}
+
 CanvasDocument::Snapshot CanvasDocument::snapshot() const
 {
     Snapshot taken {m_base, {}};

@@ -24,6 +24,10 @@ public:
 
     const QImage& base() const { return m_base; } ///< 32 bits a pixel.
     const std::vector<Mark>& annotations() const { return m_annotations; } ///< Topmost last.
+    /// Takes annotations that were made before. No undo step.
+    enum class Adopted { Saved, Unsaved }; ///< Unsaved ones make the document dirty.
+    void adopt(const std::vector<Mark::Copy>& annotations, Adopted adopted);
+
     bool isDirty() const { return m_dirty; } ///< Whether anything was changed since setClean().
     void setClean() { m_dirty = false; }
 
