@@ -96,6 +96,9 @@ struct PrefKeys final : PrefTable {
     PrefKey<bool> captureOpenMenus {*this, "captureOpenMenus", false, WhenAbsent};
     /// Whether the user has been shown how to begin.
     PrefKey<bool> welcomed {*this, "welcomed", false, WhenAbsent};
+    /// Whether annotations come back to life when their picture is opened again. What is under them
+    /// stays readable in the data folder then, even where they cover it.
+    PrefKey<bool> keepEditsEditable {*this, "keepEditsEditable", true, WhenAbsent};
     /// Whether the text of captures is recognised in idle time, for the history to search it.
     PrefKey<bool> findByText {*this, "findByText", true, WhenAbsent};
 
