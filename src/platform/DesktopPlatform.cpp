@@ -5,6 +5,7 @@
 #include "platform/freedesktop/DesktopAppearance.h"
 #include "platform/freedesktop/DesktopWords.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
+#include "platform/freedesktop/KernelPowerSource.h"
 #include "platform/freedesktop/ModuleFaceDetector.h"
 #include "platform/freedesktop/ModuleTextRecognizer.h"
 #include "platform/freedesktop/PulseSoundOutput.h"
@@ -40,6 +41,7 @@ Result<DesktopPlatform> makeDesktopPlatform()
     platform.appearance
         = std::make_unique<DesktopAppearance>(DesktopAppearance::TextScale::InScreenScale);
     platform.sound = std::make_unique<PulseSoundOutput>();
+    platform.power = std::make_unique<KernelPowerSource>();
     platform.words = desktopWords();
     platform.textRecognizer = makeTextRecognizer();
     platform.faceDetector = std::make_shared<ModuleFaceDetector>();

@@ -9,6 +9,7 @@
 #include "platform/Hotkeys.h"
 #include "platform/Platform.h"
 #include "platform/PlatformWords.h"
+#include "platform/PowerSource.h"
 #include "platform/SoundOutput.h"
 #include "platform/SurfaceTraits.h"
 #include "platform/TextRecognizer.h"
@@ -23,6 +24,7 @@ struct DesktopPlatform : CapturePlatform {
     std::unique_ptr<Hotkeys> hotkeys;
     std::unique_ptr<Appearance> appearance;
     std::unique_ptr<SoundOutput> sound;
+    std::unique_ptr<PowerSource> power;
     PlatformWords words;
     std::shared_ptr<TextRecognizer> textRecognizer; ///< Shared with the thread that reads.
     std::shared_ptr<FaceDetector> faceDetector; ///< Shared with the workers that look.

@@ -10,7 +10,9 @@
 class FakeActiveApplication final : public ActiveApplication {
 public:
     std::optional<Application> current() override { return active; }
+    bool isFullScreen() override { return fullScreen; }
     std::optional<Application> active;
+    bool fullScreen = false;
 };
 
 class FakeClipboard final : public Clipboard {
@@ -88,6 +90,12 @@ public:
     QList<QUrl> damaged;
 };
 
+class FakePowerSource final : public PowerSource {
+public:
+    bool isPlugged() const override { return plugged; }
+    bool plugged = true;
+};
+
 /// A platform that answers when told, with its parts at hand.
 struct FakePlatform : DesktopPlatform {
     FakePlatform()
@@ -100,6 +108,7 @@ struct FakePlatform : DesktopPlatform {
         hotkeys = std::make_unique<FakeHotkeys>();
         appearance = std::make_unique<FakeAppearance>();
         sound = std::make_unique<FakeSoundOutput>();
+        power = std::make_unique<FakePowerSource>();
         faceDetector = std::make_shared<FakeFaceDetector>();
     }
 
@@ -112,6 +121,7 @@ struct FakePlatform : DesktopPlatform {
     FakeClipboard& fakeClipboard() { return static_cast<FakeClipboard&>(*clipboard); }
     FakeAppearance& fakeAppearance() { return static_cast<FakeAppearance&>(*appearance); }
     FakeSoundOutput& fakeSound() { return static_cast<FakeSoundOutput&>(*sound); }
+    FakePowerSource& fakePower() { return static_cast<FakePowerSource&>(*power); }
     FakeWorkspace& fakeWorkspace() { return static_cast<FakeWorkspace&>(*workspace); }
     FakeFaceDetector& fakeFaces() { return static_cast<FakeFaceDetector&>(*faceDetector); }
     FakeHotkeys& fakeHotkeys() { return static_cast<FakeHotkeys&>(*hotkeys); }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11ActiveApplication.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr char activeWindow[] = "_NET_ACTIVE_WINDOW";
@@ -22,13 +24,27 @@ X11ActiveApplication::X11ActiveApplication(std::shared_ptr<X11Connection> connec
 
 std::optional<Application> X11ActiveApplication::current()
 {
+    const xcb_window_t active = front();
+    const auto window = active ? m_windows.find(active) : std::nullopt;
+    return window ? std::optional(window->application) : std::nullopt;
+}
+
+bool X11ActiveApplication::isFullScreen()
+{
+    const xcb_window_t active = front();
+    return active
+        && std::ranges::count(m_connection->words(m_connection->property(active, "_NET_WM_STATE")),
+            m_connection->atom("_NET_WM_STATE_FULLSCREEN"));
+}
+
+/// The active window; 0 where there is none, as between two windows for a moment.
+xcb_window_t X11ActiveApplication::front()
+{
     const auto active
         = m_connection->words(m_connection->property(m_connection->root(), activeWindow));
     // Waiting for the answer may have read events off the socket, which then would wake nobody.
     QMetaObject::invokeMethod(this, &X11ActiveApplication::readEvents, Qt::QueuedConnection);
-    // Between two windows the property is 0 for a moment.
-    const auto window = active.empty() || !active[0] ? std::nullopt : m_windows.find(active[0]);
-    return window ? std::optional(window->application) : std::nullopt;
+    return active.empty() ? 0 : active[0];
 }
 
 void X11ActiveApplication::readEvents()

@@ -13,8 +13,10 @@ public:
     explicit X11ActiveApplication(std::shared_ptr<X11Connection> connection);
 
     std::optional<Application> current() override;
+    bool isFullScreen() override;
 
 private:
+    xcb_window_t front();
     void readEvents();
 
     std::shared_ptr<X11Connection> m_connection;
