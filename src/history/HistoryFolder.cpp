@@ -34,6 +34,21 @@ HistoryFolder::HistoryFolder(const Folders& folders)
 {
 }
 
+Result<QList<HistoryItem>> HistoryFolder::read(const Folders& folders)
+{
+    HistoryFolder folder(folders);
+    if (!QFileInfo::exists(folder.m_indexPath))
+        return QList<HistoryItem>();
+    auto text = folder.readIndex();
+    auto items = text ? HistoryIndex::parse(std::move(*text)) : std::nullopt;
+    if (!items)
+        return Error::failed(
+            u"“%1” makes no sense as an index of captures."_s.arg(folder.m_indexPath));
+    FilePresence files(folder.m_folder, *items);
+    items->removeIf([&files](const HistoryItem& item) { return !files.isThere(item.path); });
+    return *std::move(items);
+}
+
 HistoryFolder::Content HistoryFolder::open()
 {
     if (QFileInfo(m_formerFolder).isDir() && !QFileInfo::exists(m_dataFolder))

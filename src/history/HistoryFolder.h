@@ -22,6 +22,10 @@ public:
 
     explicit HistoryFolder(const Folders& folders);
 
+    /// The entries whose files exist, and nothing is changed: for whoever is not their owner. None
+    /// where there is no index yet; fails where it makes no sense.
+    static Result<QList<HistoryItem>> read(const Folders& folders);
+
     /// Takes over the data folder of the program's former name, makes what is missing, and reads
     /// the index. One that makes no sense is set aside and is as none. Removes what a write that
     /// was cut off left behind.

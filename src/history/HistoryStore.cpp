@@ -110,6 +110,7 @@ void HistoryStore::update(const QString& id, const QImage& image, double scale,
     save();
     if (!after.cached && m_isSaved) // Until the index names the other file, it names the copy.
         m_folder.removeCopy(before);
+    Q_EMIT pictureChanged(id);
     conclude({});
 }
 

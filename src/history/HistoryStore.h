@@ -59,6 +59,7 @@ public:
 Q_SIGNALS:
     void changed(); ///< The items are others, or an item is.
     void removed(const QStringList& ids);
+    void pictureChanged(const QString& id); ///< By update().
     void thumbnailLoaded(const QString& id, const Thumbnail& thumbnail);
 
 private:

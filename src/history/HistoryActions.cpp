@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "history/HistoryActions.h"
+
+#include "base/Worker.h"
+#include "capture/Files.h"
+#include "widgets/Icons.h"
+
+#include <QDrag>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPointer>
+#include <QPushButton>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize dragged(160, 120); // Points that what is dragged measures at most.
+
+const QString copied = u"doc.on.doc"_s;
+const QString failure = u"exclamationmark.triangle.fill"_s;
+
+QString captures(qsizetype count)
+{
+    return count == 1 ? u"1 capture"_s : u"%1 captures"_s.arg(QLocale().toString(qlonglong(count)));
+}
+
+QStringList pathsOf(const QList<HistoryItem>& items)
+{
+    QStringList paths;
+    for (const auto& item : items)
+        if (QFileInfo::exists(item.path))
+            paths.append(item.path);
+    return paths;
+}
+
+/// A private copy is no file of the user's, who saved that capture nowhere.
+FinishedCapture captureOf(const HistoryItem& item, const QImage& image)
+{
+    return {{image, item.scale, item.app, {}}, item.cached ? QString() : item.path, item.id};
+}
+
+} // namespace
+
+HistoryActions::HistoryActions(Means means)
+    : m_means(std::move(means))
+{
+}
+
+void HistoryActions::withShot(const HistoryItem& item, std::function<void(FinishedCapture)> act)
+{
+    auto read = [item]() -> Result<QImage> {
+        QImage image = decoded(item.path);
+        if (image.isNull())
+            return Error::failed(u"“%1” cannot be read."_s.arg(QFileInfo(item.path).fileName()));
+        return image;
+    };
+    runOnWorker(read).then(
+        [self = QPointer(this), item, act = std::move(act)](const Result<QImage>& image) {
+            if (!self)
+                return;
+            if (image)
+                act(captureOf(item, *image));
+            else
+                self->tell(u"No picture"_s, failure, image.error().message);
+        });
+}
+
+void HistoryActions::tell(const QString& title, const QString& symbol, const QString& message) const
+{
+    if (m_means.tell)
+        m_means.tell({title, message, symbol});
+}
+
+void HistoryActions::edit(const HistoryItem& item)
+{
+    if (m_means.shots.edit)
+        withShot(item, m_means.shots.edit);
+}
+
+void HistoryActions::pin(const HistoryItem& item)
+{
+    if (m_means.shots.pin)
+        withShot(item, m_means.shots.pin);
+}
+
+void HistoryActions::reveal(const HistoryItem& item)
+{
+    // That the file manager does not come is seen by itself.
+    std::ignore = Files::reveal(m_means.workspace, item.path, m_means.prefs.saveFolder());
+}
+
+void HistoryActions::copy(const QList<HistoryItem>& items)
+{
+    if (items.size() > 1) {
+        const QStringList paths = pathsOf(items);
+        m_means.clipboard.setFiles(paths);
+        return tell(u"Copied %1"_s.arg(captures(paths.size())), copied);
+    }
+    if (items.isEmpty() || !m_means.shots.copy)
+        return;
+    withShot(items.first(), [this](const FinishedCapture& capture) {
+        m_means.shots.copy(capture).then([self = QPointer(this)](const Result<QString>& told) {
+            if (self)
+                self->tell(told ? *told : told.error().message, told ? copied : failure);
+        });
+    });
+}
+
+void HistoryActions::drag(const QList<HistoryItem>& items, QWidget& from)
+{
+    QList<QUrl> urls;
+    for (const QString& path : pathsOf(items))
+        urls.append(QUrl::fromLocalFile(path));
+    if (urls.isEmpty())
+        return;
+    auto* data = new QMimeData;
+    data->setUrls(urls);
+    auto* drag = new QDrag(&from);
+    drag->setMimeData(data);
+    if (const auto thumbnail = m_means.store.thumbnail(items.first())) {
+        const double scale = from.devicePixelRatioF();
+        QPixmap picture = QPixmap::fromImage(thumbnail->image.scaled(
+            dragged * scale, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        picture.setDevicePixelRatio(scale);
+        drag->setPixmap(picture);
+        drag->setHotSpot(QRectF({}, picture.deviceIndependentSize()).center().toPoint());
+    }
+    drag->exec(Qt::CopyAction);
+}
+
+void HistoryActions::remove(const QList<HistoryItem>& items, QWidget& asking)
+{
+    const auto removeAll = [this, items] {
+        for (const auto& item : items)
+            m_means.store.remove(item,
+                item == items.last() ? HistoryStore::Persist::Now : HistoryStore::Persist::Later);
+    };
+    if (items.size() == 1)
+        return removeAll();
+    if (!items.isEmpty())
+        ask(asking, u"Remove %1 from the history?"_s.arg(captures(items.size())), u"Remove"_s,
+            removeAll);
+}
+
+void HistoryActions::clear(QWidget& asking)
+{
+    ask(asking, u"Remove all %1 from the history?"_s.arg(captures(m_means.store.items().size())),
+        u"Clear History"_s, [this] { m_means.store.clear(); });
+}
+
+void HistoryActions::ask(QWidget& asking, const QString& question, const QString& action,
+    std::function<void()> confirmed)
+{
+    auto* box
+        = new QMessageBox(QMessageBox::NoIcon, action, question, QMessageBox::Cancel, &asking);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(
+        u"Files that you saved stay where they are. Captures that are only here are gone then."_s);
+    const QPushButton* yes = box->addButton(action, QMessageBox::DestructiveRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    connect(yes, &QPushButton::clicked, this, std::move(confirmed));
+    box->open();
+}
+
+void HistoryActions::openFolder()
+{
+    const QString folder = m_means.prefs.saveFolder();
+    Files::ensureFolder(folder);
+    m_means.workspace.open(folder).then([self = QPointer(this)](const Result<void>& opened) {
+        if (self && !opened && !opened.error().isCancelled())
+            self->tell(u"Couldn't open the folder"_s, failure, opened.error().message);
+    });
+}
+
+void HistoryActions::fill(QMenu& menu, const QList<HistoryItem>& items, QWidget& asking)
+{
+    const HistoryItem first = items.first();
+    const bool isOne = items.size() == 1;
+    const Theme& theme = m_means.themes.current();
+    const auto add = [&](const QString& title, const QString& symbol, bool offered, auto act) {
+        auto* action = menu.addAction(Icons::icon(symbol, theme.text, theme.onAccent), title);
+        action->setEnabled(offered);
+        connect(action, &QAction::triggered, this, act);
+        return action;
+    };
+    add(u"Open in Editor"_s, u"pencil"_s, isOne && canEdit(), [=, this] { edit(first); });
+    add(u"Copy"_s, copied, !isOne || m_means.shots.copy, [=, this] {
+        copy(items);
+    })->setShortcut(QKeySequence::Copy);
+    add(u"Pin to Screen"_s, u"pin"_s, bool(m_means.shots.pin), [=, this] {
+        for (const auto& item : items)
+            pin(item);
+    });
+    add(m_means.words.showInFolder, u"folder"_s, isOne, [=, this] { reveal(first); });
+    menu.addSeparator();
+    add(u"Remove from History"_s, u"trash"_s, true, [=, this, asking = QPointer(&asking)] {
+        if (asking)
+            remove(items, *asking);
+    })->setShortcut(QKeySequence::Delete);
+}
