@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppState.h"
 #include "app/ControlServer.h"
+#include "app/HistoryCommand.h"
 #include "app/PinFiles.h"
 #include "app/Rooms.h"
 #include "app/TerminationSignals.h"
@@ -74,6 +75,10 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     state.start();
     TrayItem tray(state, prefs);
     QObject::connect(&state, &AppState::panelRequested, &tray, &TrayItem::showMenu);
+    QObject::connect(&state, &AppState::captureBegan, [&rooms] { rooms.captureBegins(); });
+    QObject::connect(&state, &AppState::captureEnded, [&rooms] { rooms.captureEnded(); });
+    QObject::connect(&rooms.historyWindow(), &HistoryWindow::captureWanted, &state,
+        [&state] { state.capture(CaptureKind::Region); });
     rooms.effects().setTrayIcon([&tray] { return tray.position(); });
 
     if (start == Start::Seen)
@@ -84,7 +89,10 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     server->serve({[&state] { Q_EMIT state.panelRequested(); },
         [&state](CaptureKind kind) { return state.captureAndReport(kind); },
         [] { QCoreApplication::quit(); },
-        [&rooms](const QStringList& paths) { return pinFiles(rooms.pins(), paths); }});
+        [&rooms](const QStringList& paths) { return pinFiles(rooms.pins(), paths); },
+        [&state](Control::Show::What what) {
+            what == Control::Show::What::History ? state.showHistory() : state.showGallery();
+        }});
     const int code = QApplication::exec();
     rooms.cancelQuestions();
     finishCapture(state);
@@ -100,6 +108,10 @@ int main(int argc, char** argv)
     if (argc > 1 && std::strcmp(argv[1], "--text") == 0) {
         const QCoreApplication application(argc, argv);
         return runTextCommand(QCoreApplication::arguments().mid(2));
+    }
+    if (argc > 1 && std::strcmp(argv[1], "--list-history") == 0) {
+        const QCoreApplication application(argc, argv);
+        return runHistoryCommand(QCoreApplication::arguments().mid(2));
     }
     QApplication application(argc, argv);
     QGuiApplication::setApplicationDisplayName(u"Pixmallow"_s);

@@ -140,6 +140,7 @@ Pending<CaptureReport> AppState::captureAndReport(CaptureKind kind)
     }
     m_busy = true;
     m_report = {};
+    Q_EMIT captureBegan();
     pass(m_stages.closePreviews);
     auto [pending, answer] = Pending<CaptureReport>::ask();
     run(kind, std::move(answer));

@@ -56,6 +56,7 @@ public:
 
 Q_SIGNALS:
     void lastChanged();
+    void captureBegan(); ///< isBusy() is true from now on.
     void captureEnded(); ///< However it ended; isBusy() is false from now on.
     void panelRequested(); ///< Somebody started the program again.
 

@@ -145,6 +145,8 @@ void ControlServer::follow(ControlConnection& client, const Control::Request& re
         quits ? ControlConnection::Afterwards::Stay : ControlConnection::Afterwards::HangUp);
     if (quits)
         m_handlers.quit();
+    else if (const auto* wanted = std::get_if<Control::Show>(&request))
+        m_handlers.show(wanted->what);
     else
         m_handlers.panelRequested();
 }

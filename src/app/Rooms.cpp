@@ -26,6 +26,14 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_permission({m_themes, *platform.capture, *platform.workspace, platform.words,
           [this] { return regionShortcut(); }, &QSystemTrayIcon::isSystemTrayAvailable})
     , m_ocr(platform.textRecognizer)
+    , m_idleReader(makeTextRecognizer(), OCR::usualPause, QThread::IdlePriority)
+    , m_texts(folders)
+    , m_textIndexer({m_history, m_texts, prefs, m_idleReader,
+          [this] { return m_platform.power->isPlugged(); }})
+    , m_historyWindow(
+          {m_themes, prefs, m_history, *platform.clipboard, *platform.workspace, platform.words,
+              actions(), [this](const ToastMessage& message) { m_toast.show(message); }},
+          m_texts)
 {
     m_history.install();
     m_fun.install();
@@ -63,6 +71,7 @@ CaptureStages Rooms::stages()
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
     };
+    stages.showHistory = [this] { m_historyWindow.show(); };
     stages.closePreviews = [this] { m_preview.closeAll(); };
     stages.showPreview = [this](const FinishedCapture& capture, const QString& info) {
         m_preview.show(capture, info);

@@ -10,7 +10,8 @@
 #include "capture/Toast.h"
 #include "fun/CaptureFx.h"
 #include "fun/Fun.h"
-#include "history/HistoryStore.h"
+#include "history/HistoryWindow.h"
+#include "history/TextIndexer.h"
 #include "overlay/RegionOverlay.h"
 #include "platform/DesktopPlatform.h"
 #include "preview/Pins.h"
@@ -28,6 +29,11 @@ public:
 
     CaptureFx& effects() { return m_effects; }
     Pins& pins() { return m_pins; }
+    HistoryWindow& historyWindow() { return m_historyWindow; }
+
+    /// Captures are read for the history only while none is being taken.
+    void captureBegins() { m_textIndexer.captureBegins(); }
+    void captureEnded() { m_textIndexer.captureEnded(); }
 
     /// Shows a newcomer, once, where the program is and how to begin.
     void welcome();
@@ -61,4 +67,8 @@ private:
     Countdown m_countdown {m_surroundings};
     PermissionWindow m_permission;
     OCR m_ocr;
+    OCR m_idleReader;
+    TextIndex m_texts;
+    TextIndexer m_textIndexer;
+    HistoryWindow m_historyWindow;
 };

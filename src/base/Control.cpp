@@ -68,6 +68,8 @@ CaptureReport reportFrom(const QJsonObject& object, CaptureReport::Outcome outco
     };
 }
 
+const QString historyCommand = u"history"_s, galleryCommand = u"gallery"_s;
+
 struct RequestWriter {
     QJsonObject operator()(Control::ShowPanel) const { return {{u"command"_s, u"panel"_s}}; }
     QJsonObject operator()(Control::Quit) const { return {{u"command"_s, u"quit"_s}}; }
@@ -79,6 +81,11 @@ struct RequestWriter {
     QJsonObject operator()(const Control::Pin& pin) const
     {
         return {{u"command"_s, u"pin"_s}, {u"paths"_s, QJsonArray::fromStringList(pin.paths)}};
+    }
+    QJsonObject operator()(Control::Show show) const
+    {
+        const bool isHistory = show.what == Control::Show::What::History;
+        return {{u"command"_s, isHistory ? historyCommand : galleryCommand}};
     }
 };
 
@@ -126,6 +133,10 @@ Result<Control::Request> Control::requestFrom(const QByteArray& line)
         return Request(ShowPanel {});
     if (command == u"quit"_s)
         return Request(Quit {});
+    if (command == historyCommand)
+        return Request(Show {Show::What::History});
+    if (command == galleryCommand)
+        return Request(Show {Show::What::Gallery});
     if (command == u"pin"_s)
         return pinFrom(object->value(u"paths").toArray());
     if (command != u"capture"_s)

@@ -26,7 +26,11 @@ struct Quit { };
 struct Pin {
     QStringList paths; ///< Absolute.
 };
-using Request = std::variant<ShowPanel, Capture, Quit, Pin>;
+/// Opens one of the windows.
+struct Show {
+    enum class What { History, Gallery } what = What::History;
+};
+using Request = std::variant<ShowPanel, Capture, Quit, Pin, Show>;
 
 /// What was asked for has begun.
 struct Accepted { };

@@ -73,12 +73,18 @@ Result<Request> shot(const QCommandLineParser& parser)
 
 Result<Request> list(const QCommandLineParser& parser)
 {
-    const QString what = parser.positionalArguments().value(0);
-    if (what != u"screens"_s && what != u"windows"_s)
-        return Error::failed(u"'list' takes 'screens' or 'windows'."_s);
-    return Request(
-        ListRequest {what == u"screens"_s ? ListRequest::What::Screens : ListRequest::What::Windows,
-            parser.isSet(u"json"_s)});
+    using What = ListRequest::What;
+    const QMap<QString, What> known {{u"screens"_s, What::Screens}, {u"windows"_s, What::Windows},
+        {u"history"_s, What::History}};
+    const auto what = known.constFind(parser.positionalArguments().value(0));
+    if (what == known.cend())
+        return Error::failed(u"'list' takes 'screens', 'windows' or 'history'."_s);
+    ListRequest request {*what, parser.isSet(u"json"_s)};
+    if (parser.isSet(u"search"_s))
+        request.search = parser.value(u"search"_s);
+    if (request.search && request.what != What::History)
+        return Error::failed(u"--search goes with 'list history'."_s);
+    return Request(std::move(request));
 }
 
 Result<Request> capture(const QCommandLineParser& parser)
@@ -126,10 +132,14 @@ QList<Command> commands(const QStringList& arguments)
                 {u"area"_s, {}, u"X,Y,WxH"_s}, flag(u"cursor"_s), flag(u"shadow"_s),
                 flag(u"json"_s)},
             0, shot},
-        {u"list"_s, {flag(u"json"_s)}, 1, list},
+        {u"list"_s, {flag(u"json"_s), {u"search"_s, {}, u"WORDS"_s}}, 1, list},
         {u"capture"_s, {flag(u"wait"_s), flag(u"json"_s)}, 1, capture},
         {u"pin"_s, {}, anyNumber, pin},
         {u"text"_s, {flag(u"json"_s)}, anyNumber, text},
+        {u"history"_s, {}, 0,
+            [](auto&) { return Request(ShowRequest {ShowRequest::What::History}); }},
+        {u"gallery"_s, {}, 0,
+            [](auto&) { return Request(ShowRequest {ShowRequest::What::Gallery}); }},
         {u"quit"_s, {}, 0, [](auto&) { return Request(QuitRequest {}); }},
         {{}, {flag(u"replace"_s), flag(u"background"_s)}, 0,
             [&](auto&) { return Request(LaunchRequest {arguments}); }},
@@ -189,10 +199,13 @@ usage:
   pixmallow [--replace] [--background]
   pixmallow capture KIND [--wait] [--json]
   pixmallow pin FILE...
+  pixmallow history
+  pixmallow gallery
   pixmallow quit
   pixmallow shot [--output FILE|-] [--screen N | --window ID | --area X,Y,WxH]
                  [--cursor] [--shadow] [--json]
   pixmallow list screens|windows [--json]
+  pixmallow list history [--search WORDS] [--json]
   pixmallow text FILE... [--json]
   pixmallow --version | --help
 
@@ -210,6 +223,10 @@ capture  Begins a capture as its shortcut would, and starts Pixmallow if it does
 pin    Shows image files above all windows, and starts Pixmallow if it does not
        run. The wheel zooms, with Ctrl it fades, Escape closes.
 
+history, gallery
+       Opens the window of past captures, or the one of achievements and the
+       pet, and starts Pixmallow if it does not run.
+
 quit   Ends Pixmallow, if it runs.
 
 shot   Writes a picture of the whole desktop to a PNG file and nothing else: no
@@ -223,7 +240,10 @@ shot   Writes a picture of the whole desktop to a PNG file and nothing else: no
   --shadow       with the window's shadow
   --json         print where the picture is and what it shows
 
-list   Prints the screens, or the windows on screen with the front-most first.
+list   Prints the screens, the windows on screen with the front-most first, or
+       the past captures with the newest first.
+  --search WORDS only captures with WORDS in the name of their program or file,
+                 in their date, or in the text they show
 
 text   Prints the text of pictures, or what the QR and bar codes in them say if
        there is no other text. With several files each text has a heading.

@@ -31,8 +31,9 @@ struct ShotRequest {
 };
 
 struct ListRequest {
-    enum class What { Screens, Windows } what = What::Screens;
+    enum class What { Screens, Windows, History } what = What::Screens;
     bool json = false;
+    std::optional<QString> search {}; ///< Of the history: only where this is found.
 };
 
 struct CaptureRequest {
@@ -55,12 +56,17 @@ struct PinRequest {
     QStringList files;
 };
 
+/// Opening a window of the resident program.
+struct ShowRequest {
+    enum class What { History, Gallery } what = What::History;
+};
+
 struct QuitRequest { };
 struct HelpRequest { };
 struct VersionRequest { };
 
 using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, TextRequest, LaunchRequest,
-    PinRequest, QuitRequest, HelpRequest, VersionRequest>;
+    PinRequest, ShowRequest, QuitRequest, HelpRequest, VersionRequest>;
 
 /// What the words behind the program's name ask for, or one line that says what is wrong with them.
 Result<Request> parseArguments(const QStringList& arguments);

@@ -7,8 +7,11 @@
 /// Takes the picture and writes it; what the user should read is printed to standard output.
 Result<void> runShot(const ShotRequest& request);
 
-/// Prints screens or windows.
+/// Prints screens, windows or past captures.
 Result<void> runList(const ListRequest& request);
+
+/// Has the resident program open a window, starting it if none runs.
+Result<void> runShow(const ShowRequest& request);
 
 /// Asks the resident program for a capture, starting that program if none runs. Prints what came of
 /// it and returns the exit code for that.

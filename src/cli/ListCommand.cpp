@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/Print.h"
+#include "cli/ResidentProgram.h"
 #include "platform/Platform.h"
 
 #include <QJsonArray>
@@ -50,10 +51,23 @@ Result<void> listWindows(const QList<Window>& windows, bool json)
     return json ? print(QJsonValue(array)) : print(lines.toUtf8());
 }
 
+/// The resident program knows how its history is kept. Returns only if that fails.
+Error becomeHistoryList(const ListRequest& request)
+{
+    QStringList options {u"--list-history"_s};
+    if (request.json)
+        options << u"--json"_s;
+    if (request.search)
+        options << u"--search"_s << *request.search;
+    return ResidentProgram::become(options);
+}
+
 } // namespace
 
 Result<void> runList(const ListRequest& request)
 {
+    if (request.what == ListRequest::What::History)
+        return becomeHistoryList(request);
     const auto platform = makeCapturePlatform(Residency::OneShot);
     if (!platform)
         return platform.error();

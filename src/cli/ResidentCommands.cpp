@@ -16,6 +16,17 @@ Error runLaunch(const LaunchRequest& request)
     return ResidentProgram::become(request.options);
 }
 
+Result<void> runShow(const ShowRequest& request)
+{
+    auto resident = ResidentProgram::reach(Folders::ofUser());
+    if (!resident)
+        return resident.error();
+    const bool isHistory = request.what == ShowRequest::What::History;
+    using What = Control::Show::What;
+    const auto answer = resident->ask(Control::Show {isHistory ? What::History : What::Gallery});
+    return answer ? Result<void>() : answer.error();
+}
+
 Result<void> runQuit()
 {
     return askResidentToQuitAndWait(Folders::ofUser(), std::chrono::seconds(10));
