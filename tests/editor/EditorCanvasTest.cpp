@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPointingDevice>
 #include <QScreen>
 #include <QWheelEvent>
 
@@ -75,6 +77,15 @@ protected:
     {
         QWheelEvent event(at, canvas.viewport()->mapToGlobal(at), {}, {0, delta}, Qt::NoButton,
             modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(canvas.viewport(), &event);
+        QApplication::processEvents();
+    }
+
+    void pinch(QPointF at, double larger)
+    {
+        const QPointF onScreen = canvas.viewport()->mapToGlobal(at);
+        QNativeGestureEvent event(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(),
+            2, at, onScreen, onScreen, larger, {});
         QApplication::sendEvent(canvas.viewport(), &event);
         QApplication::processEvents();
     }
@@ -151,6 +162,9 @@ TEST_F(EditorCanvasTest, magnifiesAboutThePointerAndPans)
     const QPointF before = canvas.view().toPicture(at);
     wheel(at, 120, Qt::ControlModifier);
     EXPECT_NEAR(canvas.view().magnification(), std::exp2(0.25), 1e-9);
+    EXPECT_LE(std::abs((canvas.view().toPicture(at) - before).x()), 1);
+    pinch(at, 0.25);
+    EXPECT_NEAR(canvas.view().magnification(), 1.25 * std::exp2(0.25), 1e-9);
     EXPECT_LE(std::abs((canvas.view().toPicture(at) - before).x()), 1);
     wheel(at, -1200000, Qt::ControlModifier);
     EXPECT_EQ(canvas.view().magnification(), 0.05);
