@@ -10,7 +10,7 @@
 /// What one editor tells of its work, so that none of it is lost. It is on the disk some
 /// milliseconds after each change; what is left there when the program ends without close() is
 /// offered at its next start. Takes the main thread no more than the copies of what has changed.
-/// Main thread only; ends before its EditKeeper.
+/// Main thread only; ends before its KeptEdits.
 class EditJournal final {
 public:
     /// @param owner the name of its files: a new one, or that of what was left behind.

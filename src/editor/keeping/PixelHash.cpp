@@ -16,24 +16,24 @@ namespace {
 constexpr std::uint32_t opaque = 0xff000000;
 constexpr int digits = 16; // Of a half.
 
-/// What makes all of a row's pixels what they are once drawn; the colours of a premultiplied pixel
-/// are never brighter than its alpha, in a file at the latest.
-void makeCanonical(std::uint32_t* row, std::size_t width, bool hasAlpha)
+bool isOpaque(const std::uint32_t* row, std::size_t width)
 {
     std::uint32_t all = opaque;
     for (std::size_t x = 0; x < width; ++x)
         all &= row[x];
-    if (!hasAlpha) {
-        for (std::size_t x = 0; x < width; ++x)
-            row[x] |= opaque;
-    } else if (all != opaque) {
-        for (std::size_t x = 0; x < width; ++x) {
-            const auto alpha = row[x] >> 24;
-            const auto colour
-                = [&](int shift) { return std::min((row[x] >> shift) & 0xff, alpha) << shift; };
-            row[x] = alpha << 24 | colour(16) | colour(8) | colour(0);
-        }
-    }
+    return all == opaque;
+}
+
+/// A pixel as it is drawn: the colours of a premultiplied one are never brighter than its alpha, in
+/// a file at the latest.
+std::uint32_t canonical(std::uint32_t pixel, bool hasAlpha)
+{
+    if (!hasAlpha)
+        return pixel | opaque;
+    const auto alpha = pixel >> 24;
+    const auto colour
+        = [&](int shift) { return std::min((pixel >> shift) & 0xff, alpha) << shift; };
+    return alpha << 24 | colour(16) | colour(8) | colour(0);
 }
 
 } // namespace
@@ -49,12 +49,15 @@ PixelHash PixelHash::of(const QImage& image)
     const std::array<std::uint32_t, 2> size {
         std::uint32_t(pixels.width()), std::uint32_t(pixels.height())};
     XXH3_128bits_update(state.get(), size.data(), sizeof size);
-    std::vector<std::uint32_t> row(size[0]);
+    std::vector<std::uint32_t> changed(size[0]);
     for (int y = 0; y < pixels.height(); ++y) {
-        const auto* stored = reinterpret_cast<const std::uint32_t*>(pixels.constScanLine(y));
-        std::copy_n(stored, size[0], row.begin());
-        makeCanonical(row.data(), row.size(), hasAlpha);
-        XXH3_128bits_update(state.get(), row.data(), row.size() * sizeof row[0]);
+        const auto* row = reinterpret_cast<const std::uint32_t*>(pixels.constScanLine(y));
+        if (!isOpaque(row, changed.size())) {
+            std::transform(row, row + changed.size(), changed.begin(),
+                [&](std::uint32_t pixel) { return canonical(pixel, hasAlpha); });
+            row = changed.data();
+        }
+        XXH3_128bits_update(state.get(), row, changed.size() * sizeof *row);
     }
     const auto digest = XXH3_128bits_digest(state.get());
     return {digest.high64, digest.low64};

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
-#include "editor/keeping/EditKeeper.h"
+#include "editor/keeping/KeptEdits.h"
 
 #include "tests/editor/keeping/SampleEdits.h"
 #include "tests/history/HistoryPlace.h"
@@ -18,6 +18,10 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Before the toolkit starts. GLib has a lock of its own that may be held by a thread when this
+/// process forks; the child's threads would wait for it for ever.
+const bool isWithoutGLib = qputenv("QT_NO_GLIB", "1");
 
 /// What the document of a seed is after so many changes; some of them crop it or undo.
 class Work final {
@@ -59,15 +63,15 @@ private:
 [[noreturn]] void workForEver(const QString& root, unsigned seed, int report)
 {
     HistoryPlace place(root);
-    EditKeeper keeper(place.folders(), place.prefs(), place.store());
+    KeptEdits kept(place.folders(), place.prefs(), place.store());
     Work work(seed);
-    const auto journal = keeper.journal({{work.document().base(), 1, {}, {}}, {}, {}});
+    const auto journal = kept.journal({{work.document().base(), 1, {}, {}}, {}, {}});
     for (int i = 0;; ++i) {
         work.change();
         journal->note(work.document());
         if (i % 4 != 0)
             continue; // So that some of them meet a write that goes on.
-        keeper.flush();
+        kept.flush();
         const char changes[4] {1, 1, 1, 1};
         if (write(report, changes, i == 0 ? 1 : 4) < 1)
             _exit(1);
@@ -98,11 +102,11 @@ int changesOfKilled(const QString& root, unsigned seed, unsigned long microsecon
 std::optional<KeptEdit> reopened(const QString& root)
 {
     HistoryPlace place(root);
-    EditKeeper keeper(place.folders(), place.prefs(), place.store());
+    KeptEdits kept(place.folders(), place.prefs(), place.store());
     std::optional<KeptEdit> found;
     std::unique_ptr<EditJournal> journal;
-    EXPECT_EQ(keeper.leftBehind(), 1);
-    keeper.reopen([&](const KeptEdit& edit, std::unique_ptr<EditJournal> its) {
+    EXPECT_EQ(kept.leftBehind(), 1);
+    kept.reopen([&](const KeptEdit& edit, std::unique_ptr<EditJournal> its) {
         found = edit;
         journal = std::move(its);
     });

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
-#include "editor/keeping/EditKeeper.h"
+#include "editor/keeping/KeptEdits.h"
 
 #include "tests/TestFiles.h"
 #include "tests/editor/keeping/SampleEdits.h"
@@ -17,9 +17,9 @@ namespace {
 
 /// A picture being marked up, with the journal that its window would have.
 struct Editing {
-    Editing(EditKeeper& keeper, const FinishedCapture& capture, const QImage& picture)
+    Editing(KeptEdits& kept, const FinishedCapture& capture, const QImage& picture)
         : document(picture)
-        , journal(keeper.journal(capture))
+        , journal(kept.journal(capture))
     {
         document.setOnChange([this] { journal->note(document); });
     }
@@ -36,24 +36,24 @@ struct Editing {
     std::unique_ptr<EditJournal> journal;
 };
 
-class EditKeeperTest : public testing::Test {
+class KeptEditsTest : public testing::Test {
 protected:
-    EditKeeperTest() { start(); }
+    KeptEditsTest() { start(); }
 
     void start()
     {
-        keeper = std::make_unique<EditKeeper>(place.folders(), place.prefs(), place.store());
-        QObject::connect(keeper.get(), &EditKeeper::failed,
-            [this](const QString& why) { failures.append(why); });
+        kept = std::make_unique<KeptEdits>(place.folders(), place.prefs(), place.store());
+        QObject::connect(
+            kept.get(), &KeptEdits::failed, [this](const QString& why) { failures.append(why); });
     }
     /// As if the program had been killed: what is open is not closed.
     void restart()
     {
-        keeper.reset();
+        kept.reset();
         place.stop();
         start();
     }
-    void settle() { keeper->flush(); }
+    void settle() { kept->flush(); }
 
     QString addToHistory()
     {
@@ -61,13 +61,13 @@ protected:
     }
     std::optional<KeptEdit> found(const QImage& image, const QString& historyId = {})
     {
-        return *keeper->find({{image, 1, {}, {}}, {}, historyId}).wait();
+        return *kept->find({{image, 1, {}, {}}, {}, historyId}).wait();
     }
     std::vector<KeptEdit> reopened()
     {
         std::vector<KeptEdit> edits;
-        const auto expected = std::size_t(keeper->leftBehind());
-        keeper->reopen([&](const KeptEdit& edit, std::unique_ptr<EditJournal> journal) {
+        const auto expected = std::size_t(kept->leftBehind());
+        kept->reopen([&](const KeptEdit& edit, std::unique_ptr<EditJournal> journal) {
             edits.push_back(edit);
             journals.push_back(std::move(journal));
         });
@@ -83,16 +83,16 @@ protected:
     HistoryPlace place;
     QStringList failures;
     std::vector<std::unique_ptr<EditJournal>> journals; ///< Of reopened edits.
-    std::unique_ptr<EditKeeper> keeper;
+    std::unique_ptr<KeptEdits> kept;
     const QImage picture = SampleEdits::picture(1);
 };
 
 } // namespace
 
-TEST_F(EditKeeperTest, bringsAnnotationsOfAnExportedPictureBack)
+TEST_F(KeptEditsTest, bringsAnnotationsOfAnExportedPictureBack)
 {
     const QString id = addToHistory();
-    Editing editing(*keeper, {{picture, 1.5, u"Terminal"_s, {}}, {}, id}, picture);
+    Editing editing(*kept, {{picture, 1.5, u"Terminal"_s, {}}, {}, id}, picture);
     editing.mark(3);
     const auto halfway = editing.document.snapshot().annotations;
     const QImage shared = editing.document.flattened();
@@ -121,17 +121,17 @@ TEST_F(EditKeeperTest, bringsAnnotationsOfAnExportedPictureBack)
     EXPECT_THAT(failures, IsEmpty());
 }
 
-TEST_F(EditKeeperTest, keepsTheBaseOfACropAndOfAPictureWithAlpha)
+TEST_F(KeptEditsTest, keepsTheBaseOfACropAndOfAPictureWithAlpha)
 {
     const QImage clear = SampleEdits::picture(6, {240, 160}, QImage::Format_ARGB32_Premultiplied);
-    Editing editing(*keeper, {{clear, 1, {}, {}}, u"/tmp/a.png"_s, {}}, clear);
+    Editing editing(*kept, {{clear, 1, {}, {}}, u"/tmp/a.png"_s, {}}, clear);
     editing.mark(1);
     editing.document.crop({10, 10, 100, 90});
     editing.mark(2);
     settle();
     const auto final = editing.document.snapshot();
     restart();
-    ASSERT_EQ(keeper->leftBehind(), 1);
+    ASSERT_EQ(kept->leftBehind(), 1);
     const auto edits = reopened();
     ASSERT_THAT(edits, SizeIs(1));
     EXPECT_EQ(edits[0].capture.shot.image.convertToFormat(final.image.format()), final.image);
@@ -139,37 +139,37 @@ TEST_F(EditKeeperTest, keepsTheBaseOfACropAndOfAPictureWithAlpha)
     EXPECT_EQ(edits[0].capture.path, u"/tmp/a.png"_s);
 }
 
-TEST_F(EditKeeperTest, offersWhatWasLeftBehindUntilItIsClosed)
+TEST_F(KeptEditsTest, offersWhatWasLeftBehindUntilItIsClosed)
 {
     {
-        Editing one(*keeper, {{picture, 1, {}, {}}, {}, {}}, picture);
+        Editing one(*kept, {{picture, 1, {}, {}}, {}, {}}, picture);
         one.mark(1);
         one.mark(2);
-        Editing closed(*keeper, {{picture, 1, {}, {}}, {}, {}}, picture);
+        Editing closed(*kept, {{picture, 1, {}, {}}, {}, {}}, picture);
         closed.mark(7);
         closed.finish();
         settle();
     }
-    EXPECT_EQ(keeper->leftBehind(), 0) << "what is open now is nothing that was left";
+    EXPECT_EQ(kept->leftBehind(), 0) << "what is open now is nothing that was left";
     restart();
-    ASSERT_EQ(keeper->leftBehind(), 1);
+    ASSERT_EQ(kept->leftBehind(), 1);
     ASSERT_THAT(reopened(), SizeIs(1));
-    EXPECT_EQ(keeper->leftBehind(), 0);
+    EXPECT_EQ(kept->leftBehind(), 0);
     journals.clear();
     restart();
-    ASSERT_EQ(keeper->leftBehind(), 1) << "reopened, then killed once more";
+    ASSERT_EQ(kept->leftBehind(), 1) << "reopened, then killed once more";
     ASSERT_THAT(reopened(), SizeIs(1));
     journals.front()->close();
     restart();
-    EXPECT_EQ(keeper->leftBehind(), 0);
+    EXPECT_EQ(kept->leftBehind(), 0);
     EXPECT_THAT(files(u"Journals"_s), IsEmpty());
     EXPECT_THAT(failures, IsEmpty());
 }
 
-TEST_F(EditKeeperTest, doesNotOfferForEverWhatMakesTheProgramCrash)
+TEST_F(KeptEditsTest, doesNotOfferForEverWhatMakesTheProgramCrash)
 {
     {
-        Editing one(*keeper, {{picture, 1, {}, {}}, {}, {}}, picture);
+        Editing one(*kept, {{picture, 1, {}, {}}, {}, {}}, picture);
         one.mark(1);
         settle();
     }
@@ -178,7 +178,7 @@ TEST_F(EditKeeperTest, doesNotOfferForEverWhatMakesTheProgramCrash)
         ASSERT_THAT(reopened(), SizeIs(1));
     }
     restart();
-    EXPECT_EQ(keeper->leftBehind(), 0);
+    EXPECT_EQ(kept->leftBehind(), 0);
     EXPECT_TRUE(comesTrue([&] { return failures.size() == 1; }));
     restart();
     settle();
@@ -186,10 +186,10 @@ TEST_F(EditKeeperTest, doesNotOfferForEverWhatMakesTheProgramCrash)
     EXPECT_THAT(files(u"Journals"_s), SizeIs(2)) << "but it is still there";
 }
 
-TEST_F(EditKeeperTest, whatWasChangedAfterReopeningCountsAsNew)
+TEST_F(KeptEditsTest, whatWasChangedAfterReopeningCountsAsNew)
 {
     {
-        Editing one(*keeper, {{picture, 1, {}, {}}, {}, {}}, picture);
+        Editing one(*kept, {{picture, 1, {}, {}}, {}, {}}, picture);
         one.mark(1);
         settle();
     }
@@ -207,24 +207,24 @@ TEST_F(EditKeeperTest, whatWasChangedAfterReopeningCountsAsNew)
     }
 }
 
-TEST_F(EditKeeperTest, goesWithTheEntryAndWithTheHistory)
+TEST_F(KeptEditsTest, goesWithTheEntryAndWithTheHistory)
 {
-    const QString kept = addToHistory(), removed = addToHistory();
+    const QString staying = addToHistory(), removed = addToHistory();
     const auto edit = [&](unsigned seed, const QString& id) {
-        Editing editing(*keeper, {{picture, 1, {}, {}}, {}, id}, picture);
+        Editing editing(*kept, {{picture, 1, {}, {}}, {}, id}, picture);
         editing.mark(seed);
         return editing.finish();
     };
-    const QImage ofKept = edit(1, kept), ofRemoved = edit(2, removed), ofFile = edit(3, {});
+    const QImage ofKept = edit(1, staying), ofRemoved = edit(2, removed), ofFile = edit(3, {});
     {
-        Editing left(*keeper, {{picture, 1, {}, {}}, {}, removed}, picture);
+        Editing left(*kept, {{picture, 1, {}, {}}, {}, removed}, picture);
         left.mark(5);
         settle();
     }
     restart();
-    ASSERT_EQ(keeper->leftBehind(), 1);
+    ASSERT_EQ(kept->leftBehind(), 1);
     place.store().remove(place.store().items().first());
-    EXPECT_TRUE(comesTrue([&] { return keeper->leftBehind() == 0; }));
+    EXPECT_TRUE(comesTrue([&] { return kept->leftBehind() == 0; }));
     EXPECT_TRUE(found(ofKept) && found(ofFile) && !found(ofRemoved));
     EXPECT_THAT(files(u"Journals"_s), IsEmpty());
     place.store().clear();
@@ -232,11 +232,11 @@ TEST_F(EditKeeperTest, goesWithTheEntryAndWithTheHistory)
     EXPECT_THAT(files(u"Layers"_s), IsEmpty());
 }
 
-TEST_F(EditKeeperTest, goesWithAPrunedEntryAndForgetsOldExports)
+TEST_F(KeptEditsTest, goesWithAPrunedEntryAndForgetsOldExports)
 {
     place.prefs().set(Prefs::keys.historyMax, 10);
     const QString id = addToHistory();
-    Editing editing(*keeper, {{picture, 1, {}, {}}, {}, id}, picture);
+    Editing editing(*kept, {{picture, 1, {}, {}}, {}, id}, picture);
     std::vector<QImage> exports;
     for (unsigned i = 0; i < 12; ++i) {
         editing.mark(i);
@@ -254,10 +254,10 @@ TEST_F(EditKeeperTest, goesWithAPrunedEntryAndForgetsOldExports)
     EXPECT_THAT(files(u"Layers"_s), IsEmpty());
 }
 
-TEST_F(EditKeeperTest, keepsNothingThatTheUserDoesNotWant)
+TEST_F(KeptEditsTest, keepsNothingThatTheUserDoesNotWant)
 {
     const auto edit = [&](unsigned seed) {
-        Editing editing(*keeper, {{picture, 1, {}, {}}, {}, {}}, picture);
+        Editing editing(*kept, {{picture, 1, {}, {}}, {}, {}}, picture);
         editing.mark(seed);
         settle();
         const auto noted = files(u"Journals"_s).size();
@@ -269,11 +269,11 @@ TEST_F(EditKeeperTest, keepsNothingThatTheUserDoesNotWant)
     EXPECT_FALSE(files(u"Layers"_s).isEmpty());
     place.prefs().set(Prefs::keys.keepEditsEditable, false);
     EXPECT_GT(edit(2), 0) << "a crash still loses nothing";
-    keeper.reset();
+    kept.reset();
     EXPECT_THAT(files(u"Layers"_s), IsEmpty()) << "old ones neither";
     place.prefs().set(Prefs::keys.keepEditsEditable, true);
     start();
-    Editing open(*keeper, {{picture, 1, {}, {}}, {}, {}}, picture);
+    Editing open(*kept, {{picture, 1, {}, {}}, {}, {}}, picture);
     open.mark(2);
     place.prefs().set(Prefs::keys.historyEnabled, false);
     EXPECT_EQ(edit(3), 0);
@@ -281,10 +281,10 @@ TEST_F(EditKeeperTest, keepsNothingThatTheUserDoesNotWant)
     EXPECT_THAT(files(u"Layers"_s) + files(u"Journals"_s), IsEmpty());
 }
 
-TEST_F(EditKeeperTest, letsNobodyElseReadAndPutsNothingIntoTheExport)
+TEST_F(KeptEditsTest, letsNobodyElseReadAndPutsNothingIntoTheExport)
 {
     const QString id = addToHistory();
-    Editing editing(*keeper, {{picture, 1, {}, {}}, {}, id}, picture);
+    Editing editing(*kept, {{picture, 1, {}, {}}, {}, id}, picture);
     editing.mark(1);
     settle();
     editing.journal->exported(editing.document, editing.document.flattened());
@@ -300,12 +300,12 @@ TEST_F(EditKeeperTest, letsNobodyElseReadAndPutsNothingIntoTheExport)
     EXPECT_TRUE(copy.textKeys().isEmpty());
 }
 
-TEST_F(EditKeeperTest, doesWithoutWhatIsDamaged)
+TEST_F(KeptEditsTest, doesWithoutWhatIsDamaged)
 {
     const QString id = addToHistory();
     const QString layers = place.folders().data + u"/Layers/"_s;
     for (const QString& suffix : {u".edit"_s, u".png"_s}) {
-        Editing editing(*keeper, {{picture, 1, {}, {}}, {}, id}, picture);
+        Editing editing(*kept, {{picture, 1, {}, {}}, {}, id}, picture);
         editing.mark(1);
         const QImage closed = editing.finish();
         ASSERT_TRUE(found(closed, id));
@@ -317,10 +317,10 @@ TEST_F(EditKeeperTest, doesWithoutWhatIsDamaged)
     }
 }
 
-TEST_F(EditKeeperTest, removesAtStartWhatAKilledWriteLeft)
+TEST_F(KeptEditsTest, removesAtStartWhatAKilledWriteLeft)
 {
     const QString id = addToHistory();
-    Editing editing(*keeper, {{picture, 1, {}, {}}, {}, id}, picture);
+    Editing editing(*kept, {{picture, 1, {}, {}}, {}, id}, picture);
     editing.mark(1);
     const QImage closed = editing.finish();
     settle();
@@ -336,10 +336,10 @@ TEST_F(EditKeeperTest, removesAtStartWhatAKilledWriteLeft)
     EXPECT_TRUE(found(closed, id));
 }
 
-TEST_F(EditKeeperTest, saysOnceThatNothingCanBeWritten)
+TEST_F(KeptEditsTest, saysOnceThatNothingCanBeWritten)
 {
     ::put(place.folders().data + u"/Journals"_s, "in the way");
-    Editing editing(*keeper, {{picture, 1, {}, {}}, {}, {}}, picture);
+    Editing editing(*kept, {{picture, 1, {}, {}}, {}, {}}, picture);
     for (unsigned i = 0; i < 5; ++i) {
         editing.mark(i);
         settle();

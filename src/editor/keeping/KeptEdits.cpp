@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
-#include "editor/keeping/EditKeeper.h"
+#include "editor/keeping/KeptEdits.h"
 
 #include "editor/keeping/JournalKeys.h"
 
@@ -24,7 +24,7 @@ QStringList idsOf(const QList<HistoryItem>& items)
 
 } // namespace
 
-EditKeeper::EditKeeper(const Folders& folders, const Prefs& prefs, HistoryStore& history)
+KeptEdits::KeptEdits(const Folders& folders, const Prefs& prefs, HistoryStore& history)
     : m_history(history)
     , m_thread(folders, prefs)
 {
@@ -32,8 +32,8 @@ EditKeeper::EditKeeper(const Folders& folders, const Prefs& prefs, HistoryStore&
         QMetaObject::invokeMethod(
             this, [this, why] { Q_EMIT failed(why); }, Qt::QueuedConnection);
     };
-    connect(&history, &HistoryStore::removed, this, &EditKeeper::forget);
-    connect(&prefs, &Prefs::changed, this, &EditKeeper::adoptPreference);
+    connect(&history, &HistoryStore::removed, this, &KeptEdits::forget);
+    connect(&prefs, &Prefs::changed, this, &KeptEdits::adoptPreference);
     if (!m_thread.keepsLayers())
         adoptPreference(QString::fromLatin1(Prefs::keys.keepEditsEditable.name));
     if (m_thread.keepsJournals())
@@ -46,10 +46,10 @@ EditKeeper::EditKeeper(const Folders& folders, const Prefs& prefs, HistoryStore&
     });
 }
 
-EditKeeper::~EditKeeper() = default;
+KeptEdits::~KeptEdits() = default;
 
 /// The folder is read at once: an editor that opens later is not left behind.
-void EditKeeper::takeStock()
+void KeptEdits::takeStock()
 {
     for (const auto& name : m_thread.journals().records()) {
         if (name.key == JournalKeys::written || name.key == JournalKeys::tried[0]) {
@@ -61,7 +61,7 @@ void EditKeeper::takeStock()
     }
 }
 
-Pending<std::optional<KeptEdit>> EditKeeper::find(const FinishedCapture& capture)
+Pending<std::optional<KeptEdit>> KeptEdits::find(const FinishedCapture& capture)
 {
     using Found = std::optional<KeptEdit>;
     if (!m_thread.keepsLayers())
@@ -77,12 +77,12 @@ Pending<std::optional<KeptEdit>> EditKeeper::find(const FinishedCapture& capture
     return std::move(pending);
 }
 
-std::unique_ptr<EditJournal> EditKeeper::journal(const FinishedCapture& capture)
+std::unique_ptr<EditJournal> KeptEdits::journal(const FinishedCapture& capture)
 {
     return std::make_unique<EditJournal>(m_thread, capture, newHistoryId());
 }
 
-void EditKeeper::reopen(const Reopen& open)
+void KeptEdits::reopen(const Reopen& open)
 {
     for (const auto& name : std::exchange(m_leftBehind, {}))
         m_thread.run([this, name, open] {
@@ -102,7 +102,7 @@ void EditKeeper::reopen(const Reopen& open)
 }
 
 /// Whatever happens to it from now on is not its fault.
-void EditKeeper::settle(const QString& owner)
+void KeptEdits::settle(const QString& owner)
 {
     m_thread.run([this, owner] {
         for (const QString& key : JournalKeys::tried)
@@ -110,14 +110,14 @@ void EditKeeper::settle(const QString& owner)
     });
 }
 
-void EditKeeper::discardLeftBehind()
+void KeptEdits::discardLeftBehind()
 {
     for (const auto& name : std::exchange(m_leftBehind, {}))
         m_thread.run([this, owner = name.owner] { m_thread.journals().removeOwner(owner); });
     Q_EMIT leftBehindChanged();
 }
 
-void EditKeeper::adoptPreference(const QString& key)
+void KeptEdits::adoptPreference(const QString& key)
 {
     const auto is = [&key](const AnyPrefKey& other) { return key == QLatin1String(other.name); };
     const bool isHistory = is(Prefs::keys.historyEnabled);
@@ -130,7 +130,7 @@ void EditKeeper::adoptPreference(const QString& key)
     }
 }
 
-void EditKeeper::forget(const QStringList& historyIds)
+void KeptEdits::forget(const QStringList& historyIds)
 {
     m_thread.run([this, historyIds, isEmpty = m_history.items().isEmpty()] {
         m_thread.layers().remove(historyIds);

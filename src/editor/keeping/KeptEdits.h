@@ -11,14 +11,14 @@
 /// Sees to it that no edit is lost: journals what editors do, offers what a crash left behind, and
 /// brings annotations of known pictures back to life. Keeps nothing while the user wants no
 /// history, and follows the history when entries go. One for the program; main thread only.
-class EditKeeper final : public QObject {
+class KeptEdits final : public QObject {
     Q_OBJECT
 
 public:
     using Reopen = std::function<void(KeptEdit edit, std::unique_ptr<EditJournal> journal)>;
 
-    EditKeeper(const Folders& folders, const Prefs& prefs, HistoryStore& history);
-    ~EditKeeper() override; ///< Waits until what was noted is written.
+    KeptEdits(const Folders& folders, const Prefs& prefs, HistoryStore& history);
+    ~KeptEdits() override; ///< Waits until what was noted is written.
 
     /// What a picture that is to be edited was made of; none if that is not known.
     Pending<std::optional<KeptEdit>> find(const FinishedCapture& capture);
