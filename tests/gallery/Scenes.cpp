@@ -3,6 +3,7 @@
 #include "capture/CountdownView.h"
 #include "capture/PermissionView.h"
 #include "capture/ToastView.h"
+#include "editor/keeping/ReopenView.h"
 #include "preview/PreviewView.h"
 #include "tests/gallery/ControlScenes.h"
 #include "widgets/GlassButton.h"
@@ -115,6 +116,8 @@ const QList<Scene>& scenes()
             {u"Capture failed"_s,
                 u"The window is not on screen: it is minimised or on another desktop."_s,
                 u"exclamationmark.triangle.fill"_s}),
+        {u"reopen"_s, Scene::Ground::Card,
+            [](GalleryWorld& world) { return std::make_unique<ReopenView>(world.themes, 2); }},
         {u"countdown"_s, Scene::Ground::Card,
             [](GalleryWorld& world) { return std::make_unique<CountdownView>(world.themes, 3); }},
         {u"welcome"_s, Scene::Ground::None,
