@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/desktop/ClientWindow.h"
+#include "tests/desktop/Waiting.h"
 
 #include <gtest/gtest.h>
 
@@ -64,6 +65,18 @@ protected:
     static ClientWindow open(const QStringList& arguments = {})
     {
         return openWindow(*s_desktop, arguments);
+    }
+
+    /// What is on the screen once nothing moves there any more.
+    static QImage settledPixels(QRect rect = {})
+    {
+        QImage last = desktop().rootPixels(rect);
+        for (int unchanged = 0; unchanged < 2;) {
+            std::ignore = waitFor([] { return false; }, std::chrono::milliseconds(100));
+            const QImage now = desktop().rootPixels(rect);
+            unchanged = now == std::exchange(last, now) ? unchanged + 1 : 0;
+        }
+        return last;
     }
 
 private:

@@ -32,6 +32,7 @@ protected:
     using Base = ResidentDesktop<options>;
     using Base::desktop;
     using Base::pixmallow;
+    using Base::settledPixels;
 
     void SetUp() override
     {
@@ -77,7 +78,7 @@ TEST_F(CompositedTest, letsClicksThroughWhileAnEffectPlays)
 {
     choose("confetti");
     const auto window = open({u"--colour"_s, u"#336699"_s, u"--geometry"_s, u"200,150,900x500"_s});
-    const QImage before = desktop().rootPixels(window.geometry);
+    const QImage before = settledPixels(window.geometry);
     const auto plays = [&] { return !equal(desktop().rootPixels(window.geometry), before); };
     capture(u"screen"_s);
     ASSERT_TRUE(waitFor(plays));
@@ -91,9 +92,9 @@ TEST_F(CompositedTest, neitherEffectNorPinIsInACapture)
 {
     for (const QByteArray effect : {"flash", "pixels", "fly"}) {
         choose(effect);
-        const QImage before = desktop().rootPixels();
+        const QImage before = settledPixels();
         pin();
-        const QImage withPin = desktop().rootPixels();
+        const QImage withPin = settledPixels();
         EXPECT_TRUE(equal(QImage(capture(u"screen"_s)[u"path"_s].toString()), before));
         EXPECT_TRUE(waitFor([&] { return !equal(desktop().rootPixels(), withPin); }))
             << "no effect: " << effect.toStdString();
@@ -107,9 +108,9 @@ TEST_F(CompositedTest, neitherEffectNorPinIsInACapture)
 TEST_F(PlainTest, neitherEffectNorPinIsInACaptureAndNothingIsBlack)
 {
     choose("pixels");
-    const QImage before = desktop().rootPixels();
+    const QImage before = settledPixels();
     pin();
-    const QImage withPin = desktop().rootPixels();
+    const QImage withPin = settledPixels();
     EXPECT_TRUE(equal(QImage(capture(u"screen"_s)[u"path"_s].toString()), before));
     const QImage during = desktop().rootPixels();
     EXPECT_TRUE(equal(QImage(capture(u"screen"_s)[u"path"_s].toString()), before));

@@ -52,18 +52,17 @@ protected:
 
     void showText(const QString& command, const QString& size)
     {
-        const QImage before = desktop().rootPixels();
+        const QString written = desktop().home() + u"/written"_s;
+        QFile::remove(written);
+        // The terminal says where its cursor is once it has drawn all before that question.
+        const QString answered = u"; printf '\\033[6n'; IFS= read -rsd R; >"_s + written;
         auto started = desktop().launch(u"xterm"_s,
             {u"-fa"_s, u"DejaVu Sans Mono"_s, u"-fs"_s, size, u"-geometry"_s, u"120x40+150+60"_s,
-                u"-e"_s, u"sh"_s, u"-c"_s, command + u"; echo END; sleep 100"_s});
+                u"-e"_s, u"bash"_s, u"-c"_s, command + answered + u"; sleep 100"_s});
         ASSERT_TRUE(started);
         terminal = *std::move(started);
-        // Painted once nothing changes any more.
-        QImage last = before;
-        ASSERT_TRUE(waitFor([&] {
-            const QImage now = desktop().rootPixels();
-            return equal(std::exchange(last, now), now) && !equal(now, before);
-        }));
+        ASSERT_TRUE(waitFor([&] { return QFile::exists(written); }));
+        settledPixels();
     }
 
     std::unique_ptr<Client> captureText()

@@ -32,6 +32,7 @@ template <DesktopOptions (*options)()>
 class SurfacesDesktop : public DesktopTest<options> {
 protected:
     using Base = DesktopTest<options>;
+    using Base::settledPixels;
 
     void SetUp() override
     {
@@ -101,17 +102,6 @@ protected:
         return waitFor([&] { return see() == before; });
     }
 
-    /// What is on the screen when nothing moves there any more.
-    static QImage settled()
-    {
-        QImage last = see();
-        EXPECT_TRUE(waitFor([&] {
-            std::ignore = waitFor([] { return false; }, std::chrono::milliseconds(100));
-            return std::exchange(last, see()) == last;
-        }));
-        return last;
-    }
-
     void leavesNoTraceInCaptures();
 };
 
@@ -128,7 +118,7 @@ void SurfacesDesktop<options>::leavesNoTraceInCaptures()
     const QImage bare = see();
     const auto beside = Base::open({u"--pattern"_s, u"6"_s, u"--geometry"_s, u"100,100,30x200"_s});
     ASSERT_TRUE(changes(beside.geometry, bare));
-    const QImage before = settled();
+    const QImage before = settledPixels();
     toast();
     ASSERT_TRUE(changes(toastCard, before));
     EXPECT_EQ(taken(*begin(u"screen"_s)), before);
@@ -156,7 +146,7 @@ TEST_F(CompositedSurfacesTest, leaveNoTraceInCaptures)
 TEST_F(SurfacesTest, leaveTheKeyboardToWhomItBelongs)
 {
     const auto thin = open({u"--geometry"_s, u"100,100,30x200"_s});
-    const QImage before = settled();
+    const QImage before = settledPixels();
     const auto typing = [&] {
         desktop().key("a");
         return !thin.client->waitForLine("key a").isNull();
@@ -178,7 +168,7 @@ TEST_F(SurfacesTest, giveTheKeyboardBackThatAClickTook)
 {
     const auto thin = open({u"--geometry"_s, u"100,100,30x200"_s});
     ASSERT_FALSE(thin.client->waitForLine("focus in").isNull());
-    const QImage before = see();
+    const QImage before = settledPixels();
     toast();
     ASSERT_TRUE(changes(toastCard, before));
     desktop().clickAt(toastCard.center());
@@ -188,7 +178,7 @@ TEST_F(SurfacesTest, giveTheKeyboardBackThatAClickTook)
 
 TEST_F(SurfacesTest, cancelADelayedCaptureByAClick)
 {
-    const QImage before = see();
+    const QImage before = settledPixels();
     const auto delayed = begin(u"delayed"_s);
     ASSERT_TRUE(changes(countdownCard, before));
     desktop().clickAt(countdownCard.center());
