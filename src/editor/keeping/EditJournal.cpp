@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "editor/keeping/EditJournal.h"
 
+#include "capture/Files.h"
+#include "capture/ShotFile.h"
 #include "editor/keeping/JournalKeys.h"
+
+#include <QFileInfo>
 
 #include <mutex>
 
@@ -39,6 +43,16 @@ Result<void> writeJournal(EditFolder& folder, const QString& owner, const KeptEd
     return {};
 }
 
+/// Of all that shows the picture as it was exported.
+QList<PixelHash> hashesOf(const QImage& flattened, const QString& file)
+{
+    QList<PixelHash> hashes {PixelHash::of(flattened)};
+    if (Files::imageType(QFileInfo(file).suffix()) == ImageType::Jpeg)
+        if (const auto read = readShot(file))
+            hashes.append(PixelHash::of(read->image));
+    return hashes;
+}
+
 } // namespace
 
 EditJournal::EditJournal(KeepingThread& thread, FinishedCapture capture, QString owner)
@@ -72,14 +86,15 @@ void EditJournal::moveTo(const QString& path, const QString& historyId)
     m_capture.historyId = historyId;
 }
 
-void EditJournal::exported(const CanvasDocument& document, const QImage& flattened)
+void EditJournal::exported(
+    const CanvasDocument& document, const QImage& flattened, const QString& file)
 {
     if (!m_thread.keepsLayers())
         return;
-    m_thread.run([thread = &m_thread, edit = editOf(document), flattened] {
-        const auto stored = thread->layers().store(PixelHash::of(flattened), edit);
-        if (!stored)
-            thread->onFailure(stored.error().message);
+    m_thread.run([thread = &m_thread, edit = editOf(document), flattened, file] {
+        for (const PixelHash& exported : hashesOf(flattened, file))
+            if (const auto stored = thread->layers().store(exported, edit); !stored)
+                thread->onFailure(stored.error().message);
     });
 }
 

@@ -28,7 +28,9 @@ public:
 
     /// The picture left the editor, with all annotations burnt in: whoever opens those pixels again
     /// shall find them alive, as far as the user wants that.
-    void exported(const CanvasDocument& document, const QImage& flattened);
+    /// @param file that was written; empty where none was. A JPEG's pixels are others.
+    void exported(
+        const CanvasDocument& document, const QImage& flattened, const QString& file = {});
 
     /// The editor closes and all is where it belongs: forgets what was noted.
     void close();

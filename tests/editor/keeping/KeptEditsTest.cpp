@@ -121,6 +121,21 @@ TEST_F(KeptEditsTest, bringsAnnotationsOfAnExportedPictureBack)
     EXPECT_THAT(failures, IsEmpty());
 }
 
+TEST_F(KeptEditsTest, knowsAJpegThatWasWritten)
+{
+    const QString id = addToHistory(), file = place.pictures() + u"/a.jpg"_s;
+    Editing editing(*kept, {{picture, 1, {}, {}}, file, id}, picture);
+    editing.mark(3);
+    const QImage flattened = editing.document.flattened();
+    ASSERT_TRUE(Files::write(flattened, file, 1));
+    editing.journal->exported(editing.document, flattened, file);
+    editing.journal->close();
+    const auto edit = found(QImage(file), id);
+    ASSERT_TRUE(edit);
+    EXPECT_THAT(edit->annotations, SizeIs(3));
+    EXPECT_TRUE(found(flattened, id));
+}
+
 TEST_F(KeptEditsTest, keepsTheBaseOfACropAndOfAPictureWithAlpha)
 {
     const QImage clear = SampleEdits::picture(6, {240, 160}, QImage::Format_ARGB32_Premultiplied);
