@@ -60,10 +60,21 @@ QRect FloatingPanel::card() const
 
 void FloatingPanel::presentBottomRight(int margin)
 {
-    const QRect target = PanelPlacement::bottomRight(screenUnderPointer(), card().size(), margin);
-    const bool moves = !theme().reducedMotion;
-    const auto step = [this, target, moves](double done) {
-        placeCard(target.translated(0, moves ? int(Motion::riseHeight * (1 - done)) : 0));
+    glide(PanelPlacement::bottomRight(screenUnderPointer(), card().size(), margin),
+        Motion::riseHeight);
+}
+
+void FloatingPanel::presentTopRight(int margin)
+{
+    glide(
+        PanelPlacement::topRight(screenUnderPointer(), card().size(), margin), -Motion::riseHeight);
+}
+
+void FloatingPanel::glide(QRect target, int fromBelow)
+{
+    const int way = theme().reducedMotion ? 0 : fromBelow;
+    const auto step = [this, target, way](double done) {
+        placeCard(target.translated(0, int(way * (1 - done))));
         setOpacity(done);
     };
     m_motion.disconnect();

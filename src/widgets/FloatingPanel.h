@@ -35,6 +35,8 @@ public:
     /// Rises into the bottom right corner of the work area under the pointer.
     /// @param margin points to its edges
     void presentBottomRight(int margin);
+    /// Drops into the top right corner of that work area.
+    void presentTopRight(int margin);
     /// Appears in the middle of the screen under the pointer.
     void presentCentered();
     /// Fades away, then hides and tells so.
@@ -58,6 +60,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void glide(QRect target, int fromBelow); ///< Points.
     void placeCard(QRect card); ///< In points of the desktop, y down.
     void setOpacity(double opacity);
     void followBlending();
