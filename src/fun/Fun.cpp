@@ -88,6 +88,11 @@ std::optional<FunPopUp> Fun::takePopUp()
     return m_popUps.isEmpty() ? std::nullopt : std::optional(m_popUps.dequeue());
 }
 
+QDate Fun::date() const
+{
+    return m_surroundings.now().date();
+}
+
 int Fun::level() const
 {
     return Pet::level(m_stats.xp);
@@ -110,12 +115,12 @@ QString Fun::nextStage() const
 
 qint64 Fun::today() const
 {
-    return m_stats.days.value(FunRules::dayKey(m_surroundings.now().date()));
+    return m_stats.days.value(FunRules::dayKey(date()));
 }
 
 int Fun::streak() const
 {
-    return FunRules::streak(m_stats, m_surroundings.now().date());
+    return FunRules::streak(m_stats, date());
 }
 
 QString Fun::mood() const

@@ -52,6 +52,7 @@ public:
     /// The next pop-up to show, in the order they came; nothing when all were shown.
     std::optional<FunPopUp> takePopUp();
 
+    QDate date() const; ///< Today.
     int level() const;
     QString stageName() const;
     QString petEmoji() const;

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "fun/AchievementCard.h"
+
+#include "fun/Emoji.h"
+#include "widgets/TextLines.h"
+
+#include <QLocale>
+#include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize cardSize(160, 150); // Points.
+constexpr int emojiSize = 36;
+constexpr int ringSize = 56;
+constexpr double ringWidth = 3;
+constexpr int wholeTurn = 360 * 16; // As the toolkit counts angles.
+
+} // namespace
+
+AchievementCard::AchievementCard(
+    const Themes& themes, const Achievement& achievement, QWidget* parent)
+    : Tile(themes, parent)
+    , m_achievement(achievement)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize AchievementCard::sizeHint() const
+{
+    const int text
+        = theme().lineHeight(TextStyle::Headline) + 3 * theme().lineHeight(TextStyle::Caption);
+    const int height = Space::inner + ringSize + Space::tiny + text + Space::related;
+    return cardSize.expandedTo({0, height}); // Large letters.
+}
+
+void AchievementCard::setStats(const FunStats& stats)
+{
+    m_isUnlocked = stats.unlocked.contains(m_achievement.id);
+    m_value = std::clamp<qint64>(m_achievement.value(stats), 0, m_achievement.goal);
+    setAccessibleName(m_achievement.title.toString());
+    setAccessibleDescription(m_achievement.desc.toString() + u". "_s
+        + (m_isUnlocked ? u"Unlocked"_s
+                        : u"Locked, %1 of %2"_s.arg(m_value).arg(m_achievement.goal)));
+    setToolTip(m_achievement.desc.toString());
+    update();
+}
+
+void AchievementCard::paintEvent(QPaintEvent* event)
+{
+    Tile::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF circle((width() - ringSize) / 2.0, Space::inner, ringSize, ringSize);
+    paintRing(painter, circle);
+    Emoji::paint(painter, m_achievement.emoji.toString(), circle, emojiSize,
+        m_isUnlocked ? Emoji::Look::Full : Emoji::Look::Faded);
+
+    QRect line(Space::related, int(circle.bottom()) + Space::tiny, width() - 2 * Space::related,
+        theme().lineHeight(TextStyle::Headline));
+    painter.setFont(theme().font(TextStyle::Headline));
+    painter.setPen(m_isUnlocked ? theme().text : theme().secondary);
+    painter.drawText(line, Qt::AlignCenter,
+        painter.fontMetrics().elidedText(
+            m_achievement.title.toString(), Qt::ElideRight, line.width()));
+    const QFont small = theme().font(TextStyle::Caption);
+    painter.setFont(small);
+    painter.setPen(theme().secondary);
+    line = QRect(
+        line.left(), line.bottom() + 1, line.width(), theme().lineHeight(TextStyle::Caption));
+    for (const QString& text :
+        TextLines::fitting(m_achievement.desc.toString(), small, line.width(), 2)) {
+        painter.drawText(line, Qt::AlignCenter, text);
+        line.translate(0, line.height());
+    }
+    if (!m_isUnlocked) {
+        const QLocale locale;
+        painter.setPen(theme().text);
+        line.moveBottom(height() - Space::related);
+        painter.drawText(line, Qt::AlignCenter,
+            u"%1 / %2"_s.arg(locale.toString(m_value), locale.toString(m_achievement.goal)));
+    }
+    if (hasFocus()) {
+        const double inset = Extent::focusRing / 2;
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(theme().accent, Extent::focusRing));
+        painter.drawRoundedRect(
+            QRectF(rect()).adjusted(inset, inset, -inset, -inset), Radius::tile, Radius::tile);
+    }
+}
+
+void AchievementCard::paintRing(QPainter& painter, QRectF circle) const
+{
+    const double inset = ringWidth / 2;
+    const QRectF ring = circle.adjusted(inset, inset, -inset, -inset);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(theme().fillHover, ringWidth));
+    painter.drawEllipse(ring);
+    const double done
+        = m_isUnlocked ? 1 : double(m_value) / double(std::max<qint64>(1, m_achievement.goal));
+    if (done <= 0)
+        return;
+    painter.setPen(QPen(theme().accent, ringWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(ring, wholeTurn / 4, -int(done * wholeTurn));
+}

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "fun/StreakCalendarView.h"
+
+#include "widgets/Contrast.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int side = 14; // Points of a dot.
+constexpr int step = side + Space::tiny;
+constexpr std::array<double, StreakCalendar::strengths + 1> tones {0, 0.3, 0.52, 0.76, 1};
+
+} // namespace
+
+StreakCalendarView::StreakCalendarView(const Themes& themes, QWidget* parent)
+    : Tile(themes, parent)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void StreakCalendarView::setDays(const QList<StreakCalendar::Day>& days, int streak, qint64 best)
+{
+    m_days = days;
+    m_title = streak > 0 ? u"%1-day streak"_s.arg(streak) : u"No streak yet"_s;
+    m_detail = best > 0
+        ? u"Longest: %1 %2"_s.arg(m_locale.toString(best), best == 1 ? u"day"_s : u"days"_s)
+        : u"A capture a day keeps it going"_s;
+    setAccessibleName(m_title + u". "_s + m_detail);
+    update();
+}
+
+int StreakCalendarView::dotsTop() const
+{
+    return Space::group + theme().lineHeight(TextStyle::Headline) + Space::related
+        + theme().lineHeight(TextStyle::Caption) + Space::tiny;
+}
+
+QSize StreakCalendarView::sizeHint() const
+{
+    return {2 * Space::group + StreakCalendar::weeks * step - Space::tiny,
+        dotsTop() + 7 * step - Space::tiny + Space::group};
+}
+
+QRectF StreakCalendarView::dot(int day) const
+{
+    return QRectF(Space::group + day / 7 * step, dotsTop() + day % 7 * step, side, side);
+}
+
+void StreakCalendarView::paintEvent(QPaintEvent* event)
+{
+    Tile::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect line(Space::group, Space::group, width() - 2 * Space::group,
+        theme().lineHeight(TextStyle::Headline));
+    painter.setFont(theme().font(TextStyle::Headline));
+    painter.setPen(theme().text);
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, m_title);
+    painter.setFont(theme().font(TextStyle::Callout));
+    painter.setPen(theme().secondary);
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_detail);
+
+    painter.setFont(theme().font(TextStyle::Caption));
+    const int monthsTop = line.bottom() + Space::related;
+    for (int day = 0; day + 14 < m_days.size(); day += 7) // The last ones have no room for a name.
+        if (day == 0 ? m_days[0].date.day() < 15 : m_days[day].date.day() <= 7)
+            painter.drawText(QRectF(dot(day).left(), monthsTop, 3 * step,
+                                 theme().lineHeight(TextStyle::Caption)),
+                Qt::AlignLeft | Qt::AlignVCenter,
+                m_locale.standaloneMonthName(m_days[day].date.month(), QLocale::ShortFormat));
+    for (int day = 0; day < m_days.size(); ++day) {
+        const int strength = m_days[day].strength;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(strength == 0
+                ? theme().fill
+                : Contrast::mixed(theme().window, theme().accent, tones[std::size_t(strength)]));
+        painter.drawRoundedRect(dot(day), side / 3.0, side / 3.0);
+        if (day + 1 == m_days.size()) { // Today.
+            painter.setBrush(Qt::NoBrush);
+            painter.setPen(QPen(theme().text, 1.5));
+            painter.drawRoundedRect(dot(day).adjusted(-1, -1, 1, 1), side / 3.0, side / 3.0);
+        }
+    }
+}
+
+QString StreakCalendarView::told(const StreakCalendar::Day& day) const
+{
+    const QString date = m_locale.toString(day.date, QLocale::LongFormat);
+    if (day.captures == 0)
+        return u"No captures on %1"_s.arg(date);
+    return u"%1 %2 on %3"_s.arg(
+        m_locale.toString(day.captures), day.captures == 1 ? u"capture"_s : u"captures"_s, date);
+}
+
+bool StreakCalendarView::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return Tile::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    for (int day = 0; day < m_days.size(); ++day)
+        if (dot(day).adjusted(-2, -2, 2, 2).contains(help->pos()))
+            QToolTip::showText(help->globalPos(), told(m_days[day]), this, dot(day).toRect());
+    return true;
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "fun/StreakCalendar.h"
+#include "widgets/Tile.h"
+
+#include <QLocale>
+
+/// The last weeks as dots, a column each: the more captures, the stronger.
+class StreakCalendarView final : public Tile {
+    Q_OBJECT
+
+public:
+    explicit StreakCalendarView(const Themes& themes, QWidget* parent = nullptr);
+
+    void setDays(const QList<StreakCalendar::Day>& days, int streak, qint64 best);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    QRectF dot(int day) const; ///< In points of the widget.
+    int dotsTop() const;
+    QString told(const StreakCalendar::Day& day) const;
+
+    QList<StreakCalendar::Day> m_days;
+    QString m_title, m_detail;
+    const QLocale m_locale;
+};
