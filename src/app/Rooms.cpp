@@ -34,6 +34,9 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
           {m_themes, prefs, m_history, *platform.clipboard, *platform.workspace, platform.words,
               actions(), [this](const ToastMessage& message) { m_toast.show(message); }},
           m_texts)
+    , m_galleryWindow(m_themes, m_fun)
+    , m_popUps({m_surroundings, *platform.displays, prefs, m_sounds, m_fun,
+          [this] { return m_platform.activeApplication->isFullScreen(); }})
 {
     m_history.install();
     m_fun.install();
@@ -41,6 +44,7 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     m_synthesisedSounds.install();
     m_sounds.install();
     m_skins.apply();
+    QObject::connect(&m_popUps, &PopUps::galleryWanted, [this] { m_galleryWindow.show(); });
     QObject::connect(&prefs, &Prefs::saveFailed, &m_toast, [this](const QString& message) {
         m_toast.show({u"Preferences not saved"_s, message, u"exclamationmark.triangle.fill"_s});
     });
@@ -72,11 +76,24 @@ CaptureStages Rooms::stages()
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
     };
     stages.showHistory = [this] { m_historyWindow.show(); };
+    stages.showGallery = [this] { m_galleryWindow.show(); };
     stages.closePreviews = [this] { m_preview.closeAll(); };
     stages.showPreview = [this](const FinishedCapture& capture, const QString& info) {
         m_preview.show(capture, info);
     };
     return stages;
+}
+
+void Rooms::captureBegins()
+{
+    m_textIndexer.captureBegins();
+    m_popUps.captureBegins();
+}
+
+void Rooms::captureEnded()
+{
+    m_textIndexer.captureEnded();
+    m_popUps.captureEnded();
 }
 
 void Rooms::welcome()

@@ -9,7 +9,8 @@
 #include "capture/PermissionWindow.h"
 #include "capture/Toast.h"
 #include "fun/CaptureFx.h"
-#include "fun/Fun.h"
+#include "fun/GalleryWindow.h"
+#include "fun/PopUps.h"
 #include "history/HistoryWindow.h"
 #include "history/TextIndexer.h"
 #include "overlay/RegionOverlay.h"
@@ -31,9 +32,9 @@ public:
     Pins& pins() { return m_pins; }
     HistoryWindow& historyWindow() { return m_historyWindow; }
 
-    /// Captures are read for the history only while none is being taken.
-    void captureBegins() { m_textIndexer.captureBegins(); }
-    void captureEnded() { m_textIndexer.captureEnded(); }
+    /// What happens by itself keeps still while a capture is being taken.
+    void captureBegins();
+    void captureEnded();
 
     /// Shows a newcomer, once, where the program is and how to begin.
     void welcome();
@@ -71,4 +72,6 @@ private:
     TextIndex m_texts;
     TextIndexer m_textIndexer;
     HistoryWindow m_historyWindow;
+    GalleryWindow m_galleryWindow;
+    PopUps m_popUps;
 };
