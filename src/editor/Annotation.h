@@ -36,7 +36,7 @@ struct Annotation {
     int number = 1; ///< In a step's badge.
     QString emoji = QStringLiteral("😭"); ///< Or a short text; what a sticker shows.
     double rotation = 0; ///< Of a sticker about its centre, in degrees, clockwise.
-    QString style = QStringLiteral("Classic"); ///< The name of a TextStyle.
+    QString style = QStringLiteral("Classic"); ///< The name of a TextLook.
     bool centered = false; ///< A text lies about a.x instead of beginning there.
 
     /// What was pixelated last, and what for.

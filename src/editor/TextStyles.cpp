@@ -126,7 +126,7 @@ void drawMeme(QPainter& painter, const LaidText& text, const QColor&)
 
 constexpr double plainPad = 4;
 
-constexpr std::array<TextStyle, 6> styles {{
+constexpr std::array<TextLook, 6> styles {{
     {"Classic"_L1, "outline"_L1, bold, false, 0, plainPad, 0.04, drawClassic},
     {"Bubble"_L1, "TikTok label"_L1, black, false, 0.35, 0, 0.4, drawBubble},
     {"Neon"_L1, "glow"_L1, black, false, 0.3, 0, 1, drawNeon},
@@ -137,19 +137,19 @@ constexpr std::array<TextStyle, 6> styles {{
 
 } // namespace
 
-QString TextStyle::shown(const QString& text) const
+QString TextLook::shown(const QString& text) const
 {
     return upperCase ? QLocale().toUpper(text) : text;
 }
 
-std::span<const TextStyle> TextStyles::all()
+std::span<const TextLook> TextStyles::all()
 {
     return styles;
 }
 
-const TextStyle& TextStyles::find(QStringView name)
+const TextLook& TextStyles::find(QStringView name)
 {
-    for (const TextStyle& style : styles)
+    for (const TextLook& style : styles)
         if (name == style.name)
             return style;
     return styles.front();

@@ -12,7 +12,7 @@ class LaidText;
 class QPainter;
 
 /// One look of text annotations. Drawing is in the units of LaidText.
-struct TextStyle {
+struct TextLook {
     QLatin1String name; ///< As stored.
     QLatin1String effect; ///< One word of what it does.
     QFont (*font)(); ///< Of LaidText::em pixels.
@@ -28,8 +28,8 @@ struct TextStyle {
 
 namespace TextStyles {
 
-std::span<const TextStyle> all(); ///< In the order of the menu.
-const TextStyle& find(QStringView name); ///< The first one for a name that is unknown.
+std::span<const TextLook> all(); ///< In the order of the menu.
+const TextLook& find(QStringView name); ///< The first one for a name that is unknown.
 
 } // namespace TextStyles
 

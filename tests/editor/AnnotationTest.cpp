@@ -212,7 +212,7 @@ TEST(AnnotationTest, coversAllItDrawsByItsInk)
             it.number = 12345;
             it.text = u"fÅÃ̈ jgf"_s;
         }
-        for (const TextStyle& style : TextStyles::all()) {
+        for (const TextLook& style : TextStyles::all()) {
             all.push_back(caption(u"Åj\ny"_s, style.name));
             all.back().fontSize = 20 + 4 * width;
             all.back().move(50, 80);

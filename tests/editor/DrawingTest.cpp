@@ -89,7 +89,7 @@ std::vector<Subject> subjects()
     second.number = 12;
     second.fontSize = 40;
     all.push_back({u"step"_s, {first, second}});
-    for (const TextStyle& style : TextStyles::all())
+    for (const TextLook& style : TextStyles::all())
         all.push_back({u"text-"_s + QString(style.name).toLower(), {caption(style.name)}});
     auto writings = caption(u"Classic"_s, u"Ça 🔥 y\nשלום 1\nنص fi\u0301"_s);
     writings.a = {14, 6};
@@ -179,7 +179,7 @@ TEST_F(DrawingTest, leavesTheEmojiFontUnharmed)
 {
     const auto owl = [] { return drawn({{}, {sticker(u"🦉"_s, 0)}}); };
     const QImage before = owl();
-    for (const TextStyle& style : TextStyles::all())
+    for (const TextLook& style : TextStyles::all())
         drawn({{}, {caption(style.name, u"🦉 as text"_s)}});
     EXPECT_EQ(owl(), before);
     const auto text

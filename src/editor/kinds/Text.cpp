@@ -26,7 +26,7 @@ struct Styled {
         return {origin + rect.topLeft() * scale, rect.size() * scale};
     }
 
-    const TextStyle& style;
+    const TextLook& style;
     std::shared_ptr<const LaidText> laid;
     double scale; ///< Pixels of the picture per unit of the layout.
     QPointF origin;
