@@ -73,10 +73,8 @@ struct FreeName {
 };
 
 /// The first name from a number on that nothing has, not even a link that leads nowhere.
-FreeName nameFrom(int number, const QString& folder, const QString& extension,
-    const QString& prefix, const QDateTime& time)
+FreeName nameFrom(int number, const QString& base, const QString& extension)
 {
-    const QString base = folder + u'/' + FileNames::dated(prefix, time);
     for (;; ++number) {
         const QFileInfo candidate(FileNames::numbered(base, number, extension));
         if (!candidate.exists() && !candidate.isSymLink())
@@ -112,7 +110,7 @@ QString Files::nextURL(
     const QString& folder, const QString& extension, const QString& prefix, const QDateTime& time)
 {
     ensureFolder(folder);
-    return nameFrom(1, folder, extension, prefix, time).path;
+    return nameFrom(1, folder + u'/' + FileNames::dated(prefix, time), extension).path;
 }
 
 void Files::ensureFolder(const QString& folder)
@@ -136,8 +134,14 @@ Result<QString> Files::save(const QByteArray& bytes, const QString& folder,
     const QString& extension, const QString& prefix, const QDateTime& time)
 {
     ensureFolder(folder);
+    return saveNew(bytes, folder + u'/' + FileNames::dated(prefix, time), extension);
+}
+
+Result<QString> Files::saveNew(
+    const QByteArray& bytes, const QString& base, const QString& extension)
+{
     for (int next = 1;;) {
-        const auto [path, number] = nameFrom(next, folder, extension, prefix, time);
+        const auto [path, number] = nameFrom(next, base, extension);
         const auto written
             = writeFile(path, bytes, {AtomicFile::Existing::Keep, AtomicFile::Access::Umask});
         if (written)

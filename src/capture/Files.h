@@ -37,6 +37,10 @@ Result<void> write(const QImage& image, const QString& path, double scale);
 Result<QString> save(const QByteArray& bytes, const QString& folder, const QString& extension,
     const QString& prefix, const QDateTime& time);
 
+/// The same under the first free name of "BASE.EXT", "BASE (2).EXT" and so forth.
+/// @param base a path without its extension
+Result<QString> saveNew(const QByteArray& bytes, const QString& base, const QString& extension);
+
 /// @param png what encode() made of the image; may be empty.
 void copy(Clipboard& clipboard, const QImage& image, double scale, const QByteArray& png);
 

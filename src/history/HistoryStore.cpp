@@ -86,18 +86,18 @@ QString HistoryStore::add(const QImage& image, double scale, const QString& save
     return id;
 }
 
-void HistoryStore::update(const QString& id, const QImage& image, double scale,
+bool HistoryStore::update(const QString& id, const QImage& image, double scale,
     const QString& savedPath, const QByteArray& png)
 {
     const auto found = std::ranges::find(m_items, id, &HistoryItem::id);
     if (found == m_items.end() || image.isNull())
-        return;
+        return false;
     const HistoryItem before = *found;
     HistoryItem after = before;
     after.path = savedPath.isEmpty() ? writtenCopy(id, image, scale, png)
                                      : QFileInfo(savedPath).absoluteFilePath();
     if (after.path.isEmpty())
-        return;
+        return false;
     after.cached
         = isSameFile(after.path, m_folder.copyPath(id)); // What was edited may be the copy.
     if (after.cached)
@@ -112,6 +112,7 @@ void HistoryStore::update(const QString& id, const QImage& image, double scale,
         m_folder.removeCopy(before);
     Q_EMIT pictureChanged(id);
     conclude({});
+    return true;
 }
 
 void HistoryStore::remove(const HistoryItem& item, Persist persist)
