@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/EditorWindow.h"
+
+/// The editors that are open. One lives from open() until its window closes.
+class Editors final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Editors(EditorMeans means);
+    ~Editors() override;
+
+    /// Shows a picture in an editor; in the one that has it already, if it came from the same file
+    /// or entry of the history.
+    EditorWindow& open(const FinishedCapture& capture);
+
+    const QList<EditorWindow*>& windows() const { return m_windows; } ///< The oldest first.
+
+    /// For a program that is about to be ended by others: all are closed, by the closing rule
+    /// or, where that fails, with their edit in a new file.
+    void closeNow();
+
+private:
+    EditorWindow* showing(const FinishedCapture& capture) const;
+
+    const EditorMeans m_means;
+    QList<EditorWindow*> m_windows;
+};
