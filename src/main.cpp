@@ -3,7 +3,7 @@
 #include "app/AppState.h"
 #include "app/ControlServer.h"
 #include "app/HistoryCommand.h"
-#include "app/PinFiles.h"
+#include "app/OpenFiles.h"
 #include "app/Rooms.h"
 #include "app/TerminationSignals.h"
 #include "app/TextCommand.h"
@@ -85,11 +85,23 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
         rooms.welcome();
 
     const TerminationSignals signals;
-    QObject::connect(&signals, &TerminationSignals::received, qApp, &QCoreApplication::quit);
+    QObject::connect(&signals, &TerminationSignals::received, qApp, [&rooms] {
+        rooms.editors().closeNow();
+        QCoreApplication::quit();
+    });
+    QObject::connect(
+        qApp, &QGuiApplication::commitDataRequest, qApp, [&rooms] { rooms.editors().closeNow(); });
     server->serve({[&state] { Q_EMIT state.panelRequested(); },
         [&state](CaptureKind kind) { return state.captureAndReport(kind); },
         [] { QCoreApplication::quit(); },
-        [&rooms](const QStringList& paths) { return pinFiles(rooms.pins(), paths); },
+        [&rooms](const QStringList& paths) {
+            return openFiles(paths,
+                [&rooms](const FinishedCapture& picture) { rooms.pins().show(picture.shot); });
+        },
+        [&rooms](const QStringList& paths) {
+            return openFiles(
+                paths, [&rooms](const FinishedCapture& picture) { rooms.editors().open(picture); });
+        },
         [&state](Control::Show::What what) {
             what == Control::Show::What::History ? state.showHistory() : state.showGallery();
         }});

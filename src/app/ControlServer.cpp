@@ -140,6 +140,10 @@ void ControlServer::follow(ControlConnection& client, const Control::Request& re
         answerLater(m_handlers.pin(wanted->paths), &client);
         return;
     }
+    if (const auto* wanted = std::get_if<Control::Edit>(&request)) {
+        answerLater(m_handlers.edit(wanted->paths), &client);
+        return;
+    }
     const bool quits = std::holds_alternative<Control::Quit>(request);
     client.answer(Control::Accepted {},
         quits ? ControlConnection::Afterwards::Stay : ControlConnection::Afterwards::HangUp);

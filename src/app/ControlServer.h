@@ -25,6 +25,7 @@ public:
         std::function<Pending<CaptureReport>(CaptureKind)> capture;
         std::function<void()> quit; ///< Returns before the program ends.
         std::function<Pending<CaptureReport>(QStringList)> pin {};
+        std::function<Pending<CaptureReport>(QStringList)> edit {};
         std::function<void(Control::Show::What)> show {};
     };
 

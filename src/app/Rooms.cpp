@@ -21,6 +21,8 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_overlayPool(*platform.surfaces)
     , m_operations({platform, prefs, folders, m_themes, m_fun})
     , m_pins(m_surroundings, actions())
+    , m_editors({m_surroundings, prefs, *platform.clipboard, m_history, m_fun, actions(),
+          platform.faceDetector})
     , m_preview(m_surroundings, prefs, m_fun, actions(), platform.words.showInFolder)
     , m_effects({*platform.displays, *platform.surfaces, m_themes, prefs})
     , m_permission({m_themes, *platform.capture, *platform.workspace, platform.words,
@@ -54,6 +56,7 @@ ShotActions Rooms::actions()
 {
     ShotActions actions = m_operations.actions();
     actions.pin = [this](const FinishedCapture& capture) { m_pins.show(capture.shot); };
+    actions.edit = [this](const FinishedCapture& capture) { m_editors.open(capture); };
     return actions;
 }
 
@@ -75,6 +78,7 @@ CaptureStages Rooms::stages()
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
     };
+    stages.openEditor = [this](const FinishedCapture& capture) { m_editors.open(capture); };
     stages.showHistory = [this] { m_historyWindow.show(); };
     stages.showGallery = [this] { m_galleryWindow.show(); };
     stages.closePreviews = [this] { m_preview.closeAll(); };

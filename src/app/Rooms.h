@@ -8,6 +8,7 @@
 #include "capture/OCR.h"
 #include "capture/PermissionWindow.h"
 #include "capture/Toast.h"
+#include "editor/Editors.h"
 #include "fun/CaptureFx.h"
 #include "fun/GalleryWindow.h"
 #include "fun/PopUps.h"
@@ -30,6 +31,7 @@ public:
 
     CaptureFx& effects() { return m_effects; }
     Pins& pins() { return m_pins; }
+    Editors& editors() { return m_editors; }
     HistoryWindow& historyWindow() { return m_historyWindow; }
 
     /// What happens by itself keeps still while a capture is being taken.
@@ -62,6 +64,7 @@ private:
     std::unique_ptr<RegionOverlay> m_overlay; ///< Of the last selection.
     ShotOperations m_operations;
     Pins m_pins;
+    Editors m_editors;
     PreviewPanel m_preview;
     CaptureFx m_effects;
     Toast m_toast {m_surroundings};

@@ -78,6 +78,10 @@ struct RequestWriter {
         return {{u"command"_s, u"capture"_s}, {u"kind"_s, infoOf(capture.kind).key},
             {u"wait"_s, capture.wait}};
     }
+    QJsonObject operator()(const Control::Edit& edit) const
+    {
+        return {{u"command"_s, u"edit"_s}, {u"paths"_s, QJsonArray::fromStringList(edit.paths)}};
+    }
     QJsonObject operator()(const Control::Pin& pin) const
     {
         return {{u"command"_s, u"pin"_s}, {u"paths"_s, QJsonArray::fromStringList(pin.paths)}};
@@ -89,17 +93,19 @@ struct RequestWriter {
     }
 };
 
-Result<Control::Request> pinFrom(const QJsonArray& items)
+/// For requests that consist of paths.
+template <typename Wanted>
+Result<Control::Request> pathsFrom(const QJsonArray& items)
 {
-    Control::Pin pin;
+    Wanted wanted;
     for (const auto& item : items) {
         if (!item.isString())
             return Error::failed(u"A path is a text."_s);
-        pin.paths << item.toString();
+        wanted.paths << item.toString();
     }
-    if (pin.paths.isEmpty())
-        return Error::failed(u"There is nothing to pin."_s);
-    return Control::Request(pin);
+    if (wanted.paths.isEmpty())
+        return Error::failed(u"There is nothing to open."_s);
+    return Control::Request(wanted);
 }
 
 struct AnswerWriter {
@@ -138,7 +144,9 @@ Result<Control::Request> Control::requestFrom(const QByteArray& line)
     if (command == galleryCommand)
         return Request(Show {Show::What::Gallery});
     if (command == u"pin"_s)
-        return pinFrom(object->value(u"paths").toArray());
+        return pathsFrom<Pin>(object->value(u"paths").toArray());
+    if (command == u"edit"_s)
+        return pathsFrom<Edit>(object->value(u"paths").toArray());
     if (command != u"capture"_s)
         return Error::failed(u"There is no command %1."_s.arg(quoted(command)));
     const auto kind = object->value(u"kind");

@@ -26,11 +26,15 @@ struct Quit { };
 struct Pin {
     QStringList paths; ///< Absolute.
 };
+/// Opens image files in the editor; the answer comes when they are open.
+struct Edit {
+    QStringList paths; ///< Absolute.
+};
 /// Opens one of the windows.
 struct Show {
     enum class What { History, Gallery } what = What::History;
 };
-using Request = std::variant<ShowPanel, Capture, Quit, Pin, Show>;
+using Request = std::variant<ShowPanel, Capture, Quit, Pin, Edit, Show>;
 
 /// What was asked for has begun.
 struct Accepted { };

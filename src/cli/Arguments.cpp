@@ -107,6 +107,14 @@ Result<Request> pin(const QCommandLineParser& parser)
     return Request(PinRequest {files});
 }
 
+Result<Request> edit(const QCommandLineParser& parser)
+{
+    const auto files = parser.positionalArguments();
+    if (files.isEmpty() || files.contains(QString()))
+        return Error::failed(u"'edit' takes one or more image files."_s);
+    return Request(EditRequest {files});
+}
+
 Result<Request> text(const QCommandLineParser& parser)
 {
     if (parser.positionalArguments().isEmpty())
@@ -135,6 +143,7 @@ QList<Command> commands(const QStringList& arguments)
         {u"list"_s, {flag(u"json"_s), {u"search"_s, {}, u"WORDS"_s}}, 1, list},
         {u"capture"_s, {flag(u"wait"_s), flag(u"json"_s)}, 1, capture},
         {u"pin"_s, {}, anyNumber, pin},
+        {u"edit"_s, {}, anyNumber, edit},
         {u"text"_s, {flag(u"json"_s)}, anyNumber, text},
         {u"history"_s, {}, 0,
             [](auto&) { return Request(ShowRequest {ShowRequest::What::History}); }},
@@ -199,6 +208,7 @@ usage:
   pixmallow [--replace] [--background]
   pixmallow capture KIND [--wait] [--json]
   pixmallow pin FILE...
+  pixmallow edit FILE...
   pixmallow history
   pixmallow gallery
   pixmallow quit
@@ -222,6 +232,10 @@ capture  Begins a capture as its shortcut would, and starts Pixmallow if it does
 
 pin    Shows image files above all windows, and starts Pixmallow if it does not
        run. The wheel zooms, with Ctrl it fades, Escape closes.
+
+edit   Opens image files in the editor, and starts Pixmallow if it does not run.
+       Closing keeps the edit: PNG and JPEG files are replaced, for others there
+       is a new PNG file beside them.
 
 history, gallery
        Opens the window of past captures, or the one of achievements and the

@@ -56,6 +56,10 @@ struct PinRequest {
     QStringList files;
 };
 
+struct EditRequest {
+    QStringList files;
+};
+
 /// Opening a window of the resident program.
 struct ShowRequest {
     enum class What { History, Gallery } what = What::History;
@@ -66,7 +70,7 @@ struct HelpRequest { };
 struct VersionRequest { };
 
 using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, TextRequest, LaunchRequest,
-    PinRequest, ShowRequest, QuitRequest, HelpRequest, VersionRequest>;
+    PinRequest, EditRequest, ShowRequest, QuitRequest, HelpRequest, VersionRequest>;
 
 /// What the words behind the program's name ask for, or one line that says what is wrong with them.
 Result<Request> parseArguments(const QStringList& arguments);

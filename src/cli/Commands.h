@@ -26,5 +26,8 @@ Error runLaunch(const LaunchRequest& request);
 /// Has the resident program show image files above all windows, starting it if none runs.
 Result<void> runPin(const PinRequest& request);
 
+/// Has the resident program open image files in the editor, starting it if none runs.
+Result<void> runEdit(const EditRequest& request);
+
 /// Ends the resident program; done as well if none runs.
 Result<void> runQuit();

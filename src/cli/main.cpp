@@ -46,6 +46,11 @@ Result<int> run(const PinRequest& request)
     return codeOf(runPin(request));
 }
 
+Result<int> run(const EditRequest& request)
+{
+    return codeOf(runEdit(request));
+}
+
 Result<int> run(const ShowRequest& request)
 {
     return codeOf(runShow(request));

@@ -1,16 +1,14 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
-#include "app/PinFiles.h"
+#include "app/OpenFiles.h"
 
 #include "base/Worker.h"
 #include "capture/ShotFile.h"
 
-#include <QPointer>
-
 namespace {
 
 struct Opened {
-    QList<Shot> shots;
+    QList<FinishedCapture> pictures;
     QStringList complaints;
 };
 
@@ -20,7 +18,7 @@ Result<Opened> openAll(const QStringList& paths)
     for (const auto& path : paths) {
         const auto shot = readShot(path);
         if (shot)
-            opened.shots << *shot;
+            opened.pictures << FinishedCapture {*shot, path};
         else
             opened.complaints << shot.error().message;
     }
@@ -29,16 +27,17 @@ Result<Opened> openAll(const QStringList& paths)
 
 } // namespace
 
-Pending<CaptureReport> pinFiles(Pins& pins, const QStringList& paths)
+Pending<CaptureReport> openFiles(
+    const QStringList& paths, std::function<void(const FinishedCapture&)> show)
 {
     auto [report, answer] = Pending<CaptureReport>::ask();
     const auto shared = std::make_shared<Pending<CaptureReport>::Answer>(std::move(answer));
     auto open = [paths] { return openAll(paths); };
-    runOnWorker(open).then([pins = QPointer(&pins), shared](const Result<Opened>& opened) {
-        if (!pins)
+    runOnWorker(open).then([show = std::move(show), shared](const Result<Opened>& opened) {
+        if (!opened)
             return; // The program ends.
-        for (const auto& shot : opened->shots)
-            pins->show(shot);
+        for (const auto& picture : opened->pictures)
+            show(picture);
         CaptureReport done {CaptureReport::Outcome::Done};
         if (!opened->complaints.isEmpty())
             done = {CaptureReport::Outcome::Failed, opened->complaints.join(u' ')};
