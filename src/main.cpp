@@ -81,6 +81,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
         [&state] { state.capture(CaptureKind::Region); });
     rooms.effects().setTrayIcon([&tray] { return tray.position(); });
 
+    rooms.updater().start();
     if (start == Start::Seen)
         rooms.welcome();
 

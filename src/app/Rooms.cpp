@@ -39,12 +39,14 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_galleryWindow(m_themes, m_fun)
     , m_popUps({m_surroundings, *platform.displays, prefs, m_sounds, m_fun,
           [this] { return m_platform.activeApplication->isFullScreen(); }})
+    , m_updater({prefs, *platform.workspace, platform.words, folders.downloads})
 {
     m_history.install();
     m_fun.install();
     m_skins.install();
     m_synthesisedSounds.install();
     m_sounds.install();
+    m_updater.install();
     m_skins.apply();
     QObject::connect(&m_popUps, &PopUps::galleryWanted, [this] { m_galleryWindow.show(); });
     QObject::connect(&prefs, &Prefs::saveFailed, &m_toast, [this](const QString& message) {

@@ -20,6 +20,7 @@
 #include "preview/PreviewPanel.h"
 #include "skins/Skins.h"
 #include "skins/Sounds.h"
+#include "update/UpdatePanel.h"
 #include "widgets/ApplicationLook.h"
 
 /// The rooms along a capture's way, each made once, and how the coordinator reaches them.
@@ -33,6 +34,7 @@ public:
     Pins& pins() { return m_pins; }
     Editors& editors() { return m_editors; }
     HistoryWindow& historyWindow() { return m_historyWindow; }
+    Updater& updater() { return m_updater; }
 
     /// What happens by itself keeps still while a capture is being taken.
     void captureBegins();
@@ -77,4 +79,6 @@ private:
     HistoryWindow m_historyWindow;
     GalleryWindow m_galleryWindow;
     PopUps m_popUps;
+    Updater m_updater;
+    UpdatePanel m_updatePanel {m_themes, m_updater};
 };

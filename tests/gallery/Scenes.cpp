@@ -6,6 +6,7 @@
 #include "editor/keeping/ReopenView.h"
 #include "preview/PreviewView.h"
 #include "tests/gallery/ControlScenes.h"
+#include "update/UpdateView.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
 #include "widgets/TextLabel.h"
@@ -76,6 +77,22 @@ std::unique_ptr<QWidget> letters(GalleryWorld& world)
     return widget;
 }
 
+std::unique_ptr<QWidget> update(GalleryWorld& world, bool loading)
+{
+    const UpdateInfo info {u"1.4.2"_s, u"2026-05-04"_s, {}, {},
+        {u"The region's edges snap to windows."_s,
+            u"Captures of several screens keep the scale of each of them, also where one was "
+            "turned while the program was running."_s,
+            u"A new skin."_s}};
+    auto view = std::make_unique<UpdateView>(world.themes, info, u"1.3.0"_s);
+    if (loading) {
+        view->setInstalling(true);
+        view->setStage(u"Downloading…"_s);
+        view->setReceived(40, 100);
+    }
+    return view;
+}
+
 Scene toast(const QString& name, const ToastMessage& message)
 {
     return {name, Scene::Ground::Card, [message](GalleryWorld& world) {
@@ -118,6 +135,10 @@ const QList<Scene>& scenes()
                 u"exclamationmark.triangle.fill"_s}),
         {u"reopen"_s, Scene::Ground::Card,
             [](GalleryWorld& world) { return std::make_unique<ReopenView>(world.themes, 2); }},
+        {u"update"_s, Scene::Ground::None,
+            [](GalleryWorld& world) { return update(world, false); }},
+        {u"update-loading"_s, Scene::Ground::None,
+            [](GalleryWorld& world) { return update(world, true); }},
         {u"countdown"_s, Scene::Ground::Card,
             [](GalleryWorld& world) { return std::make_unique<CountdownView>(world.themes, 3); }},
         {u"welcome"_s, Scene::Ground::None,

@@ -5,8 +5,9 @@
 #include "platform/fake/FakePlatform.h"
 #include "tests/TestFiles.h"
 #include "tests/update/TestServer.h"
-#include "update/UpdateRules.h"
+#include "update/UpdatePanel.h"
 
+#include <QApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -233,6 +234,42 @@ TEST_F(UpdaterTest, aDownloadCanBeCancelled)
     EXPECT_TRUE(done.error().isCancelled());
     EXPECT_EQ(stages, QStringList {u"Downloading…"_s});
     EXPECT_TRUE(QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+TEST_F(UpdaterTest, itsPanelSkipsInstallsAndCancels)
+{
+    FakeAppearance appearance;
+    Skins skins(prefs, appearance);
+    const Themes themes(skins, appearance);
+    UpdatePanel panel(themes, updater);
+    const auto view = []() -> UpdateView* {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* found = qobject_cast<UpdateView*>(window))
+                return found;
+        return nullptr;
+    };
+    publish(u"2.0"_s);
+    check();
+    ASSERT_TRUE(view() && view()->isVisible());
+    Q_EMIT view()->skipWanted();
+    EXPECT_FALSE(view());
+    EXPECT_EQ(prefs.get(Prefs::keys.skipVersion), u"2.0");
+
+    check();
+    server.pages["/program"] = {program, 200, {}, 1000, true};
+    Q_EMIT view()->installWanted();
+    updater.check(true); // What it finds does not replace the panel that is at work.
+    waitForCheck();
+    Q_EMIT view()->laterWanted();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(view()) << "only the download is cancelled";
+    server.pages["/program"] = {program};
+    Q_EMIT view()->installWanted();
+    while (workspace.opened.isEmpty())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    view()->close();
+    EXPECT_FALSE(view());
 }
 
 TEST_F(UpdaterTest, believesOnlyCertificatesThatItKnows)
