@@ -37,7 +37,7 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
               actions(), [this](const ToastMessage& message) { m_toast.show(message); }},
           m_texts)
     , m_galleryWindow(m_themes, m_fun)
-    , m_popUps({m_surroundings, *platform.displays, prefs, m_sounds, m_fun,
+    , m_popUps({m_surroundings, *platform.displays, m_synthesisedSounds, m_fun,
           [this] { return m_platform.activeApplication->isFullScreen(); }})
     , m_updater({prefs, *platform.workspace, platform.words, folders.downloads})
 {

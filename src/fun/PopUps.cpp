@@ -99,8 +99,7 @@ void PopUps::show(const FunPopUp& popUp)
     m_panel->raise(); // Above the paper.
     QAccessibleEvent announcement(m_panel.get(), QAccessible::Alert);
     QAccessible::updateAccessibility(&announcement);
-    if (m_means.prefs.get(Prefs::keys.playSound))
-        m_means.sounds.play(u"Sparkle"_s, m_means.prefs.get(Prefs::keys.soundVolume));
+    m_means.sounds.play(u"Sparkle"_s);
     m_means.wait(shown, this, [this, turn = ++m_turn] {
         if (turn == m_turn)
             close();

@@ -5,7 +5,7 @@
 #include "base/CallLater.h"
 #include "fun/Fun.h"
 #include "fun/FxPanel.h"
-#include "skins/Sounds.h"
+#include "skins/SynthSounds.h"
 #include "widgets/FloatingPanel.h"
 
 #include <memory>
@@ -20,8 +20,7 @@ public:
     struct Means {
         Surroundings surroundings;
         const Displays& displays;
-        const Prefs& prefs;
-        Sounds& sounds;
+        SynthSounds& sounds;
         Fun& fun;
         std::function<bool()> isFullScreen; ///< Whether a program has the screen to itself.
         CallLater wait = callLater;

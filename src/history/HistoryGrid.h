@@ -59,7 +59,6 @@ private:
     void adoptTheme();
     int top() const; ///< Of what is seen, in the content.
     QRect seen(QRect content) const; ///< In the viewport.
-    QString foundIn(const HistoryItem& item) const;
     void paintCard(QPainter& painter, const CardPainter& cards, int index);
     const QPixmap* picture(const HistoryItem& item, QRect box);
     void arrived(const QString& id, const Thumbnail& thumbnail);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "capture/OCR.h"
 
+#include "platform/fake/FakeTextRecognizer.h"
+
 #include <gtest/gtest.h>
 
 #include <QThread>
@@ -12,31 +14,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-/// Answers as told.
-class FakeTextRecognizer final : public TextRecognizer {
-public:
-    Result<RecognisedText> recognise(
-        const QImage& picture, double scale, const std::atomic<bool>& cancelled) override
-    {
-        readIn = QThread::currentThread();
-        readSize = picture.size();
-        readScale = scale;
-        ++reading;
-        while (holdsBack && (isStubborn || !cancelled))
-            QThread::msleep(1);
-        return answer;
-    }
-    void release() override { ++releases; }
-
-    Result<RecognisedText> answer = RecognisedText {};
-    std::atomic<bool> holdsBack = false;
-    bool isStubborn = false; ///< Does not let itself be cancelled.
-    std::atomic<int> reading = 0, releases = 0;
-    QThread* readIn = nullptr;
-    QSize readSize;
-    double readScale = 0;
-};
 
 class OCRTest : public testing::Test {
 protected:
