@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
@@ -59,10 +60,6 @@ std::optional<HistoryItem> HistoryGrid::hovered() const
 void HistoryGrid::refresh()
 {
     hover(HistoryLayout::none);
-    const auto [first, last] = m_layout.cardsWithin(top(), top() + viewport()->height());
-    const bool isAtTop = top() == 0 || first == last;
-    const QString anchor = isAtTop ? QString() : m_ids[first];
-    const int offset = isAtTop ? 0 : m_layout.card(first).top() - top();
     const int currentBefore = m_selection.current();
 
     m_groups = dayGroups(m_catalogue.shown(), m_catalogue.calendar());
@@ -71,12 +68,29 @@ void HistoryGrid::refresh()
         m_ids.append(item.id);
     m_selection.follow(m_ids);
     layOut();
-    const auto found = isAtTop ? -1 : m_ids.indexOf(anchor);
-    if (found >= 0)
-        verticalScrollBar()->setValue(m_layout.card(int(found)).top() - offset);
+    returnToAnchor();
     if (m_selection.current() != currentBefore)
         tellCurrent();
     viewport()->update();
+}
+
+/// Remembers what is seen at the top. The same card counts until somebody scrolls: were it another
+/// one each time that rows are filled anew, what is seen would creep away.
+void HistoryGrid::anchor()
+{
+    const auto [first, last] = m_layout.cardsWithin(top(), top() + viewport()->height());
+    const bool isSomewhere = top() > 0 && first < last;
+    m_anchor = isSomewhere ? m_ids[first] : QString();
+    m_anchorTop = isSomewhere ? m_layout.card(first).top() - top() : 0;
+}
+
+void HistoryGrid::returnToAnchor()
+{
+    const auto found = m_anchor.isEmpty() ? -1 : m_ids.indexOf(m_anchor);
+    if (found < 0)
+        return anchor();
+    const QScopedValueRollback returning(m_isReturning, true);
+    verticalScrollBar()->setValue(m_layout.card(int(found)).top() - m_anchorTop);
 }
 
 QList<HistoryItem> HistoryGrid::selected() const
@@ -100,6 +114,7 @@ void HistoryGrid::layOut()
     m_layout = HistoryLayout(sizes,
         {viewport()->width(), Space::window, Space::group, leastWidth,
             CardPainter::height(theme, lines), theme.lineHeight(TextStyle::Title3) + Space::group});
+    const QScopedValueRollback returning(m_isReturning, true); // The range may cut it off.
     const int page = viewport()->height();
     verticalScrollBar()->setPageStep(page);
     verticalScrollBar()->setSingleStep(CardPainter::thumbnailHeight / 3);
@@ -137,6 +152,8 @@ void HistoryGrid::resizeEvent(QResizeEvent*)
 
 void HistoryGrid::scrollContentsBy(int, int)
 {
+    if (!m_isReturning)
+        anchor();
     hover(HistoryLayout::none);
     viewport()->update();
 }

@@ -56,6 +56,8 @@ protected:
 
 private:
     void layOut();
+    void anchor();
+    void returnToAnchor();
     void adoptTheme();
     int top() const; ///< Of what is seen, in the content.
     QRect seen(QRect content) const; ///< In the viewport.
@@ -76,6 +78,9 @@ private:
     HistoryLayout m_layout;
     CardSelection m_selection;
     CardPictures m_pictures;
+    QString m_anchor; ///< A card that stays where it is; empty at the very top.
+    int m_anchorTop = 0; ///< Where, in the viewport.
+    bool m_isReturning = false; ///< To the anchor: it is not the user who scrolls.
     QSet<QString> m_gone; ///< Whose file cannot be read.
     QWidget* m_hoverActions = nullptr;
     QVariantAnimation m_lift; ///< 0 to 1, of the card under the pointer.
