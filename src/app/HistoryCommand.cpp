@@ -62,11 +62,11 @@ int runHistoryCommand(const QStringList& words)
     QJsonArray array;
     QString lines;
     const bool json = words.indexOf(u"--json"_s) >= 0 && words.indexOf(u"--json"_s) != search + 1;
-    for (const auto& item : catalogue.shown())
+    for (const HistoryItem* item : catalogue.shown())
         if (json)
-            array.append(toJson(item, texts.read(item.id)));
+            array.append(toJson(*item, texts.read(item->id)));
         else
-            lines += line(item);
+            lines += line(*item);
     const auto printed = json ? print(QJsonValue(array)) : print(lines.toUtf8());
     if (!printed)
         complain(printed.error().message);

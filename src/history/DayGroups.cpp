@@ -61,13 +61,13 @@ QString DayCalendar::time(const HistoryItem& item) const
     return locale.toString(item.time().toTimeZone(zone).time(), QLocale::ShortFormat);
 }
 
-QList<DayGroup> dayGroups(const QList<HistoryItem>& items, const DayCalendar& calendar)
+QList<DayGroup> dayGroups(const HistoryItems& items, const DayCalendar& calendar)
 {
     QList<DayGroup> groups;
     DayFinder days(calendar);
     std::optional<QDate> last;
-    for (const auto& item : items) {
-        const QDate day = days.day(item);
+    for (const HistoryItem* item : items) {
+        const QDate day = days.day(*item);
         if (day != last)
             groups.append({calendar.title(day), {}});
         last = day;

@@ -26,11 +26,14 @@ struct DayCalendar {
     }
 };
 
+/// Some entries of a list. To have copies of thousands takes longer than to find them.
+using HistoryItems = QList<const HistoryItem*>;
+
 /// Entries of one day that follow one another.
 struct DayGroup {
     QString title;
-    QList<HistoryItem> items;
+    HistoryItems items;
 };
 
 /// In the order of the items.
-QList<DayGroup> dayGroups(const QList<HistoryItem>& items, const DayCalendar& calendar);
+QList<DayGroup> dayGroups(const HistoryItems& items, const DayCalendar& calendar);

@@ -2,22 +2,56 @@
 // SPDX-License-Identifier: MIT
 #include "history/HistoryCatalogue.h"
 
-#include <QSet>
-
 #include <algorithm>
 #include <cstring>
+#include <numeric>
+#include <string_view>
+#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Several times as fast as what the toolkit does for text.
-bool contains(const QByteArray& text, const QByteArray& wanted)
-{
-    return memmem(text.constData(), std::size_t(text.size()), wanted.constData(),
-               std::size_t(wanted.size()))
-        != nullptr;
-}
+/// How often letters are met in text, the most frequent first.
+constexpr std::string_view frequent = " etaoinsrhldcumfgpwyb";
+
+/// Looks for the letter that is met least, and there for the whole: the letter is found sixteen or
+/// more bytes at a time, where looking for two at once goes byte by byte.
+class Needle final {
+public:
+    explicit Needle(const QByteArray& wanted)
+        : m_wanted(wanted.constData(), std::size_t(wanted.size()))
+    {
+        std::size_t least = 0;
+        for (std::size_t i = 0; i < m_wanted.size(); ++i)
+            if (const auto rank = frequent.find(m_wanted[i]); rank >= least) {
+                least = rank; // The greatest of all where it is not among them.
+                m_rare = i;
+            }
+    }
+
+    bool isIn(const QByteArray& text) const
+    {
+        const auto size = std::size_t(text.size());
+        if (m_wanted.size() > size)
+            return false;
+        const char* at = text.constData() + m_rare;
+        const char* const end = text.constData() + size - (m_wanted.size() - m_rare) + 1;
+        while (at < end) {
+            at = static_cast<const char*>(memchr(at, m_wanted[m_rare], std::size_t(end - at)));
+            if (!at)
+                return false;
+            if (memcmp(at - m_rare, m_wanted.data(), m_wanted.size()) == 0)
+                return true;
+            ++at;
+        }
+        return m_wanted.empty();
+    }
+
+private:
+    const std::string_view m_wanted;
+    std::size_t m_rare = 0; ///< Place of the letter.
+};
 
 QString fileName(const QString& path)
 {
@@ -33,7 +67,9 @@ QByteArray searchable(const QString& text)
     for (QChar& character : folded)
         if (character.isSpace())
             character = u' ';
-    return folded.toUtf8();
+    QByteArray bytes = folded.toUtf8();
+    bytes.squeeze(); // There may be thousands, and room for thrice the letters was made.
+    return bytes;
 }
 
 HistoryCatalogue::HistoryCatalogue(const DayCalendar& calendar)
@@ -51,7 +87,8 @@ QString HistoryCatalogue::wordsOf(const HistoryItem& item, const DayCalendar& ca
 void HistoryCatalogue::setCalendar(const DayCalendar& calendar)
 {
     if (calendar.zone != m_calendar.zone || calendar.locale != m_calendar.locale) {
-        m_words.clear();
+        for (auto& [id, searched] : m_searched)
+            searched.words.clear();
         m_prepared = 0;
     }
     m_calendar = calendar;
@@ -59,16 +96,17 @@ void HistoryCatalogue::setCalendar(const DayCalendar& calendar)
 
 void HistoryCatalogue::setItems(const QList<HistoryItem>& items)
 {
-    if (items.size() < m_words.size() || items.size() < m_texts.size()) {
-        QSet<QString> ids;
-        for (const auto& item : items)
-            ids.insert(item.id);
-        m_words.removeIf([&ids](auto each) { return !ids.contains(each.key()); });
-        m_texts.removeIf([&ids](auto each) { return !ids.contains(each.key()); });
-    }
     m_items = items;
     m_prepared = 0;
-    filter(m_items);
+    m_inOrder.clear();
+    for (const auto& item : std::as_const(m_items))
+        m_inOrder.push_back(&m_searched[item.id]);
+    if (m_searched.size() > m_inOrder.size()) { // What is known of others goes with them.
+        const std::unordered_set<const Searched*> kept(m_inOrder.begin(), m_inOrder.end());
+        std::erase_if(
+            m_searched, [&kept](const auto& each) { return !kept.contains(&each.second); });
+    }
+    filter(all());
 }
 
 void HistoryCatalogue::setQuery(const QString& query)
@@ -77,58 +115,68 @@ void HistoryCatalogue::setQuery(const QString& query)
     m_query = query;
     if (wanted == m_wanted)
         return;
-    const bool isNarrower = !m_wanted.isEmpty() && contains(wanted, m_wanted);
+    const bool isNarrower = !m_wanted.isEmpty() && wanted.contains(m_wanted);
     m_wanted = wanted;
-    filter(isNarrower ? std::exchange(m_shown, {}) : m_items);
+    filter(isNarrower ? std::exchange(m_shown, {}) : all());
 }
 
 void HistoryCatalogue::addTexts(const QHash<QString, QByteArray>& texts)
 {
-    m_texts.insert(texts);
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        if (const auto found = m_searched.find(text.key()); found != m_searched.end())
+            found->second.text = *text;
     if (isSearching())
-        filter(m_items);
+        filter(all());
 }
 
-void HistoryCatalogue::dropTexts()
+HistoryItems HistoryCatalogue::all() const
 {
-    m_texts.clear();
-    if (isSearching())
-        filter(m_items);
+    HistoryItems all(m_items.size());
+    std::iota(all.begin(), all.end(), m_items.constData());
+    return all;
 }
 
-void HistoryCatalogue::filter(const QList<HistoryItem>& among)
+void HistoryCatalogue::filter(const HistoryItems& among)
 {
     if (!isSearching()) {
         m_shown = among;
         return;
     }
-    QList<HistoryItem> found;
-    for (const auto& item : among)
-        if (find(item) != Found::No)
+    HistoryItems found;
+    for (const HistoryItem* item : among)
+        if (find(*item, *m_inOrder[std::size_t(item - m_items.constData())]) != Found::No)
             found.append(item);
     m_shown = std::move(found);
 }
 
 HistoryCatalogue::Found HistoryCatalogue::find(const HistoryItem& item)
 {
-    if (contains(words(item), m_wanted))
+    return find(item, m_searched[item.id]);
+}
+
+HistoryCatalogue::Found HistoryCatalogue::find(const HistoryItem& item, Searched& searched) const
+{
+    const Needle wanted(m_wanted);
+    if (wanted.isIn(words(item, searched)))
         return Found::InWords;
-    const auto text = m_texts.constFind(item.id);
-    return text != m_texts.cend() && contains(*text, m_wanted) ? Found::InText : Found::No;
+    return wanted.isIn(searched.text) ? Found::InText : Found::No;
 }
 
 bool HistoryCatalogue::prepare(int entries)
 {
     const auto end = std::min(m_items.size(), m_prepared + entries);
     for (; m_prepared < end; ++m_prepared)
-        std::ignore = words(m_items[m_prepared]);
+        std::ignore = words(m_items.at(m_prepared), *m_inOrder[std::size_t(m_prepared)]);
     return m_prepared < m_items.size();
 }
 
-const QByteArray& HistoryCatalogue::words(const HistoryItem& item)
+const QByteArray& HistoryCatalogue::words(const HistoryItem& item, Searched& searched) const
 {
-    Words& words = m_words[item.id];
-    if (words.path != item.path)
-        words = {item.path, searchable(wordsOf(item, m_calendar))};
-    return words.searched;
+    const bool isSame = searched.path.constData() == item.path.constData() // Mostly.
+        || searched.path == item.path;
+    if (searched.words.isEmpty() || !isSame) {
+        searched.path = item.path;
+        searched.words = searchable(wordsOf(item, m_calendar));
+    }
+    return searched.words;
 }

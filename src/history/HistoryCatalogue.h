@@ -6,6 +6,9 @@
 
 #include <QHash>
 
+#include <unordered_map>
+#include <vector>
+
 /// Text as it is compared when something is looked for: in small letters, on one line, with plain
 /// blanks. UTF-8.
 QByteArray searchable(const QString& text);
@@ -26,12 +29,11 @@ public:
     void setQuery(const QString& query);
     /// What was read in pictures, by id, from searchable(); adds to what was set before.
     void addTexts(const QHash<QString, QByteArray>& texts);
-    void dropTexts();
 
     /// Makes the next so many entries ready to be searched. Whether some are left.
     bool prepare(int entries);
 
-    const QList<HistoryItem>& shown() const { return m_shown; }
+    const HistoryItems& shown() const { return m_shown; } ///< Until the items change.
     const DayCalendar& calendar() const { return m_calendar; }
     const QString& query() const { return m_query; }
     bool isSearching() const { return !m_wanted.isEmpty(); }
@@ -41,19 +43,23 @@ public:
     Found find(const HistoryItem& item);
 
 private:
-    struct Words {
-        QString path; ///< Of the entry when they were made.
-        QByteArray searched;
+    /// What is known of an entry.
+    struct Searched {
+        QString path; ///< When the words were made.
+        QByteArray words, text;
     };
 
-    void filter(const QList<HistoryItem>& among);
-    const QByteArray& words(const HistoryItem& item);
+    void filter(const HistoryItems& among);
+    HistoryItems all() const;
+    const QByteArray& words(const HistoryItem& item, Searched& searched) const;
+    Found find(const HistoryItem& item, Searched& searched) const;
 
     DayCalendar m_calendar;
-    QList<HistoryItem> m_items, m_shown;
+    QList<HistoryItem> m_items;
+    HistoryItems m_shown; ///< Among m_items.
     QString m_query;
     QByteArray m_wanted; ///< The query as it is compared.
-    QHash<QString, Words> m_words; ///< By id.
-    QHash<QString, QByteArray> m_texts; ///< By id.
+    std::unordered_map<QString, Searched> m_searched; ///< By id.
+    std::vector<Searched*> m_inOrder; ///< Of all items.
     qsizetype m_prepared = 0;
 };

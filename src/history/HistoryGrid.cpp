@@ -53,8 +53,7 @@ void HistoryGrid::setHoverActions(QWidget* actions)
 
 std::optional<HistoryItem> HistoryGrid::hovered() const
 {
-    return m_hovered == HistoryLayout::none ? std::nullopt
-                                            : std::optional(m_catalogue.shown()[m_hovered]);
+    return m_hovered == HistoryLayout::none ? std::nullopt : std::optional(item(m_hovered));
 }
 
 void HistoryGrid::refresh()
@@ -63,15 +62,21 @@ void HistoryGrid::refresh()
     const int currentBefore = m_selection.current();
 
     m_groups = dayGroups(m_catalogue.shown(), m_catalogue.calendar());
-    m_ids.clear();
-    for (const auto& item : m_catalogue.shown())
-        m_ids.append(item.id);
-    m_selection.follow(m_ids);
+    if (m_selection.current() >= 0)
+        m_selection.follow(ids());
     layOut();
     returnToAnchor();
     if (m_selection.current() != currentBefore)
         tellCurrent();
     viewport()->update();
+}
+
+QStringList HistoryGrid::ids() const
+{
+    QStringList ids;
+    for (const HistoryItem* each : m_catalogue.shown())
+        ids.append(each->id);
+    return ids;
 }
 
 /// Remembers what is seen at the top. The same card counts until somebody scrolls: were it another
@@ -80,13 +85,13 @@ void HistoryGrid::anchor()
 {
     const auto [first, last] = m_layout.cardsWithin(top(), top() + viewport()->height());
     const bool isSomewhere = top() > 0 && first < last;
-    m_anchor = isSomewhere ? m_ids[first] : QString();
+    m_anchor = isSomewhere ? item(first).id : QString();
     m_anchorTop = isSomewhere ? m_layout.card(first).top() - top() : 0;
 }
 
 void HistoryGrid::returnToAnchor()
 {
-    const auto found = m_anchor.isEmpty() ? -1 : m_ids.indexOf(m_anchor);
+    const auto found = m_anchor.isEmpty() ? -1 : ids().indexOf(m_anchor);
     if (found < 0)
         return anchor();
     const QScopedValueRollback returning(m_isReturning, true);
@@ -97,9 +102,9 @@ QList<HistoryItem> HistoryGrid::selected() const
 {
     QList<HistoryItem> items;
     if (m_selection.count() > 0)
-        for (const auto& item : m_catalogue.shown())
-            if (m_selection.contains(item.id))
-                items.append(item);
+        for (const HistoryItem* each : m_catalogue.shown())
+            if (m_selection.contains(each->id))
+                items.append(*each);
     return items;
 }
 
@@ -179,16 +184,16 @@ void HistoryGrid::paintEvent(QPaintEvent* event)
 
 void HistoryGrid::paintCard(QPainter& painter, const CardPainter& cards, int index)
 {
-    const HistoryItem& item = m_catalogue.shown()[index];
+    const HistoryItem& shown = item(index);
     CardPainter::Card card;
     card.box = seen(m_layout.card(index));
-    card.picture = picture(item, card.box);
-    card.points = item.points();
-    card.isGone = m_gone.contains(item.id);
-    card.line = CardText::line(item, m_catalogue.calendar());
+    card.picture = picture(shown, card.box);
+    card.points = shown.points();
+    card.isGone = m_gone.contains(shown.id);
+    card.line = CardText::line(shown, m_catalogue.calendar());
     if (m_catalogue.isSearching())
-        card.found = CardText::found(item, m_catalogue, m_textOf);
-    card.isSelected = m_selection.contains(item.id);
+        card.found = CardText::found(shown, m_catalogue, m_textOf);
+    card.isSelected = m_selection.contains(shown.id);
     card.hasFocus = hasFocus() && index == m_selection.current();
     if (index == m_hovered)
         card.lift = m_themes.current().reducedMotion ? 0 : m_lift.currentValue().toDouble();
@@ -215,13 +220,13 @@ void HistoryGrid::arrived(const QString& id, const Thumbnail& thumbnail)
         m_gone.remove(id);
     const auto [first, last] = m_layout.cardsWithin(top(), top() + viewport()->height());
     for (int index = first; index < last; ++index)
-        if (m_ids[index] == id)
+        if (item(index).id == id)
             viewport()->update(seen(m_layout.card(index)));
 }
 
 void HistoryGrid::choose(int index, CardSelection::How how)
 {
-    m_selection.choose(m_ids, index, how);
+    m_selection.choose(ids(), index, how);
     bringIntoView(index);
     tellCurrent();
     viewport()->update();
@@ -270,11 +275,11 @@ void HistoryGrid::tellCurrent()
         setAccessibleDescription({});
         return;
     }
-    const HistoryItem& item = m_catalogue.shown()[current];
+    const HistoryItem& shown = item(current);
     const auto& calendar = m_catalogue.calendar();
     setAccessibleDescription(
         u"%1, %2, %3; %4 of %5"_s
-            .arg(item.app, calendar.title(calendar.day(item)), calendar.time(item))
+            .arg(shown.app, calendar.title(calendar.day(shown)), calendar.time(shown))
             .arg(current + 1)
             .arg(m_layout.count()));
     QAccessibleEvent told(this, QAccessible::DescriptionChanged);

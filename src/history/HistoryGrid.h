@@ -61,6 +61,8 @@ private:
     void adoptTheme();
     int top() const; ///< Of what is seen, in the content.
     QRect seen(QRect content) const; ///< In the viewport.
+    const HistoryItem& item(int index) const { return *m_catalogue.shown()[index]; }
+    QStringList ids() const; ///< Of all cards, in their order.
     void paintCard(QPainter& painter, const CardPainter& cards, int index);
     const QPixmap* picture(const HistoryItem& item, QRect box);
     void arrived(const QString& id, const Thumbnail& thumbnail);
@@ -74,7 +76,6 @@ private:
     HistoryCatalogue& m_catalogue;
     const TextOf m_textOf;
     QList<DayGroup> m_groups;
-    QStringList m_ids; ///< Of the cards, in their order.
     HistoryLayout m_layout;
     CardSelection m_selection;
     CardPictures m_pictures;

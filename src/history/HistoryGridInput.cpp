@@ -75,7 +75,7 @@ void HistoryGrid::mouseMoveEvent(QMouseEvent* event)
         || (at - m_pressedAt).manhattanLength() < QApplication::startDragDistance())
         return;
     const int index = std::exchange(m_pressed, HistoryLayout::none);
-    if (!m_selection.contains(m_ids[index]))
+    if (!m_selection.contains(item(index).id))
         choose(index, CardSelection::How::Alone);
     Q_EMIT dragWanted();
 }
@@ -87,7 +87,7 @@ void HistoryGrid::mouseReleaseEvent(QMouseEvent* event)
         || index >= m_layout.count())
         return;
     choose(index, CardSelection::How::Alone);
-    Q_EMIT opened(m_catalogue.shown()[index]);
+    Q_EMIT opened(item(index));
 }
 
 void HistoryGrid::keyPressEvent(QKeyEvent* event)
@@ -98,13 +98,13 @@ void HistoryGrid::keyPressEvent(QKeyEvent* event)
         choose(m_layout.moved(m_selection.current(), *move, viewport()->height()),
             extends ? CardSelection::How::UpTo : CardSelection::How::Alone);
     } else if (event->matches(QKeySequence::SelectAll)) {
-        m_selection.chooseAll(m_ids);
+        m_selection.chooseAll(ids());
         viewport()->update();
     } else if (event->key() == Qt::Key_Space && m_selection.current() >= 0) {
         choose(m_selection.current(), CardSelection::How::Toggled);
     } else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         && m_selection.current() >= 0) {
-        Q_EMIT opened(m_catalogue.shown()[m_selection.current()]);
+        Q_EMIT opened(item(m_selection.current()));
     } else {
         event->ignore();
         Q_EMIT keyUnused(event);
@@ -122,7 +122,7 @@ void HistoryGrid::contextMenuEvent(QContextMenuEvent* event)
     }
     if (index < 0)
         return;
-    if (!m_selection.contains(m_ids[index]))
+    if (!m_selection.contains(item(index).id))
         choose(index, CardSelection::How::Alone);
     Q_EMIT menuWanted(at);
 }

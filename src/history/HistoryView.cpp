@@ -53,7 +53,7 @@ HistoryView::HistoryView(const Means& means, QWidget* parent)
     connectGrid();
     connect(m_noCaptures, &EmptyState::actionWanted, this, &HistoryView::captureWanted);
     connect(m_noMatch, &EmptyState::actionWanted, m_search, &QLineEdit::clear);
-    connect(&means.store, &HistoryStore::changed, this, &HistoryView::refresh);
+    connect(&means.store, &HistoryStore::changed, this, &HistoryView::adoptItems);
     connect(&means.texts, &TextIndex::loaded, this, [this](const auto& texts) {
         m_catalogue.addTexts(texts);
         if (m_catalogue.isSearching())
@@ -67,7 +67,7 @@ HistoryView::HistoryView(const Means& means, QWidget* parent)
     m_clock.setInterval(lookAtCalendar);
     m_clock.callOnTimeout(this, &HistoryView::followCalendar);
     m_clock.start();
-    refresh();
+    adoptItems();
 }
 
 QLayout* HistoryView::bar()
@@ -146,9 +146,15 @@ void HistoryView::setQuery(const QString& query)
     m_search->setText(query);
 }
 
-void HistoryView::refresh()
+void HistoryView::adoptItems()
 {
     m_catalogue.setItems(m_means.store.items());
+    m_preparing.start(0);
+    refresh();
+}
+
+void HistoryView::refresh()
+{
     m_grid->refresh();
     m_clear->setEnabled(!m_catalogue.isEmpty());
     if (m_catalogue.isEmpty())
@@ -158,7 +164,6 @@ void HistoryView::refresh()
     else
         m_pages->setCurrentWidget(m_grid);
     m_noMatch->setText(u"Nothing in your history matches “%1”."_s.arg(m_catalogue.query()));
-    m_preparing.start(0);
 }
 
 void HistoryView::followCalendar()

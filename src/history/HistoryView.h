@@ -49,6 +49,7 @@ private:
     QLayout* bar();
     QWidget* hoverActions();
     void connectGrid();
+    void adoptItems();
     void refresh();
     void followCalendar();
     void openMenu(QPoint at);

@@ -22,6 +22,14 @@ DayCalendar calendarOf(const char* zone, QDate today, const QLocale& locale = am
     return {QTimeZone(zone), locale, today};
 }
 
+QList<DayGroup> groupsOf(const QList<HistoryItem>& items, const DayCalendar& calendar)
+{
+    HistoryItems all;
+    for (const auto& item : items)
+        all << &item;
+    return dayGroups(all, calendar);
+}
+
 QStringList titles(const QList<DayGroup>& groups)
 {
     QStringList titles;
@@ -58,7 +66,7 @@ TEST(DayGroupsTest, aDayIsThatOfTheUsersCalendarAndZone)
     };
     for (const auto& each : cases) {
         const auto time = QDateTime::fromString(QString::fromLatin1(each.time), Qt::ISODate);
-        const auto groups = dayGroups({at(time)}, calendarOf(each.zone, each.today, each.locale));
+        const auto groups = groupsOf({at(time)}, calendarOf(each.zone, each.today, each.locale));
         EXPECT_EQ(titles(groups), QStringList {each.title + u": 1"_s}) << each.zone << each.time;
     }
 }
@@ -67,13 +75,13 @@ TEST(DayGroupsTest, followTheOrderOfTheItems)
 {
     const auto calendar = calendarOf("UTC", {2026, 3, 7});
     const QDateTime noon({2026, 3, 7}, {12, 0}, Qt::UTC);
-    EXPECT_TRUE(dayGroups({}, calendar).isEmpty());
+    EXPECT_TRUE(groupsOf({}, calendar).isEmpty());
     // Somebody had set the clock back for a while.
     const QList<HistoryItem> items {at(noon.addSecs(60)), at(noon), at(noon.addDays(-1)),
         at(noon.addSecs(30)), at(noon.addDays(-1)), at(noon.addDays(-1).addSecs(-60))};
-    EXPECT_EQ(titles(dayGroups(items, calendar)),
+    EXPECT_EQ(titles(groupsOf(items, calendar)),
         QStringList({u"Today: 2"_s, u"Yesterday: 1"_s, u"Today: 1"_s, u"Yesterday: 2"_s}));
     HistoryItem senseless;
     senseless.date = 1e300;
-    EXPECT_EQ(dayGroups({senseless, items[0]}, calendar).size(), 2);
+    EXPECT_EQ(groupsOf({senseless, items[0]}, calendar).size(), 2);
 }
