@@ -113,6 +113,7 @@ void CardPainter::paintHeading(QPainter& painter, QRect box, const QString& titl
 {
     QColor veil = m_theme.window;
     veil.setAlphaF(float(headingVeil));
+    box.setHeight(box.height() - Space::tiny); // What is marked or lifted below keeps its edge.
     painter.fillRect(box, veil);
     painter.setFont(m_headingFont);
     painter.setPen(m_theme.text);

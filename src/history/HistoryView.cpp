@@ -8,6 +8,7 @@
 #include "widgets/EmptyState.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
+#include "widgets/Tile.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -106,13 +107,13 @@ QLayout* HistoryView::bar()
 QWidget* HistoryView::hoverActions()
 {
     using Act = void (HistoryActions::*)(const HistoryItem&);
-    auto* actions = new QWidget;
+    auto* actions = new Tile(m_means.themes);
     auto* row = new QHBoxLayout(actions);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Space::tiny);
+    row->setContentsMargins(Space::tiny, 0, Space::tiny, 0);
+    row->setSpacing(0);
     const auto add = [&](const QString& symbol, const QString& help, auto act) {
         auto* button
-            = GlassButton::ofSymbol(m_means.themes, symbol, help, GlassButton::Look::Prominent);
+            = GlassButton::ofSymbol(m_means.themes, symbol, help, GlassButton::Look::Plain);
         button->setFocusPolicy(Qt::NoFocus); // The keyboard has shorter ways.
         connect(button, &QAbstractButton::clicked, this, [this, act] {
             if (const auto item = m_grid->hovered())
