@@ -89,7 +89,8 @@ void EditJournal::moveTo(const QString& path, const QString& historyId)
 void EditJournal::exported(
     const CanvasDocument& document, const QImage& flattened, const QString& file)
 {
-    if (!m_thread.keepsLayers())
+    const bool isAsItCame = !document.isDirty() && document.annotations().empty();
+    if (isAsItCame || !m_thread.keepsLayers())
         return;
     m_thread.run([thread = &m_thread, edit = editOf(document), flattened, file] {
         for (const PixelHash& exported : hashesOf(flattened, file))

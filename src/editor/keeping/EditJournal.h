@@ -27,7 +27,8 @@ public:
     void moveTo(const QString& path, const QString& historyId);
 
     /// The picture left the editor, with all annotations burnt in: whoever opens those pixels again
-    /// shall find them alive, as far as the user wants that.
+    /// shall find them alive, as far as the user wants that. Costs nothing for a picture as it
+    /// came.
     /// @param file that was written; empty where none was. A JPEG's pixels are others.
     void exported(
         const CanvasDocument& document, const QImage& flattened, const QString& file = {});
