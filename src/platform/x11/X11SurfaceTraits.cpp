@@ -41,6 +41,16 @@ bool isOurs(xcb_connection_t* xcb, xcb_window_t window)
     return (window & ~setup->resource_id_mask) == setup->resource_id_base;
 }
 
+/// One of ours that floats; others of ours are like those of any program.
+bool isFloating(xcb_connection_t* xcb, xcb_window_t window)
+{
+    if (!isOurs(xcb, window))
+        return false;
+    const auto attributes = owned(
+        xcb_get_window_attributes_reply(xcb, xcb_get_window_attributes(xcb, window), nullptr));
+    return attributes && attributes->override_redirect;
+}
+
 /// The first two windows that can have the focus stand for none and for the root.
 constexpr xcb_window_t lastSpecialFocus = XCB_INPUT_FOCUS_POINTER_ROOT;
 
@@ -88,7 +98,7 @@ void X11SurfaceTraits::setInputRegion(QWindow& window, const QRegion& region)
 
 void X11SurfaceTraits::takeFocus(QWindow& window)
 {
-    if (const xcb_window_t focus = focusOf(m_xcb); !isOurs(m_xcb, focus))
+    if (const xcb_window_t focus = focusOf(m_xcb); !isFloating(m_xcb, focus))
         m_focusBefore = focus;
     xcb_set_input_focus(
         m_xcb, XCB_INPUT_FOCUS_POINTER_ROOT, xcb_window_t(window.winId()), XCB_CURRENT_TIME);
@@ -100,7 +110,7 @@ void X11SurfaceTraits::returnFocus()
     const xcb_window_t before = std::exchange(m_focusBefore, XCB_WINDOW_NONE);
     const xcb_window_t now = focusOf(m_xcb);
     // When a window that has the focus goes, nobody has it.
-    const bool taken = now > lastSpecialFocus && !isOurs(m_xcb, now);
+    const bool taken = now > lastSpecialFocus && !isFloating(m_xcb, now);
     if (before <= lastSpecialFocus || taken)
         return;
     // Should it be gone by now, nothing happens.
