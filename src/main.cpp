@@ -84,6 +84,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     rooms.updater().start();
     if (start == Start::Seen)
         rooms.welcome();
+    rooms.offerLeftBehind();
 
     const TerminationSignals signals;
     QObject::connect(&signals, &TerminationSignals::received, qApp, [&rooms] {
@@ -99,10 +100,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
             return openFiles(paths,
                 [&rooms](const FinishedCapture& picture) { rooms.pins().show(picture.shot); });
         },
-        [&rooms](const QStringList& paths) {
-            return openFiles(
-                paths, [&rooms](const FinishedCapture& picture) { rooms.editors().open(picture); });
-        },
+        [&rooms](const QStringList& paths) { return rooms.editFiles(paths); },
         [&state](Control::Show::What what) {
             what == Control::Show::What::History ? state.showHistory() : state.showGallery();
         }});

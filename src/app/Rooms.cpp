@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Rooms.h"
 
+#include "app/OpenFiles.h"
 #include "shortcuts/KeyCombo.h"
 
 #include <QSystemTrayIcon>
@@ -12,6 +13,7 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     : m_platform(platform)
     , m_prefs(prefs)
     , m_history(folders, prefs)
+    , m_keptEdits(folders, prefs, m_history)
     , m_fun(folders, prefs)
     , m_skins(prefs, *platform.appearance)
     , m_themes(m_skins, *platform.appearance)
@@ -21,8 +23,12 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_overlayPool(*platform.surfaces)
     , m_operations({platform, prefs, folders, m_themes, m_fun})
     , m_pins(m_surroundings, actions())
-    , m_editors({m_surroundings, prefs, *platform.clipboard, m_history, m_fun, actions(),
-          platform.faceDetector})
+    , m_editors({m_surroundings, prefs, *platform.clipboard, m_history, m_keptEdits, m_fun,
+          actions(), platform.faceDetector})
+    , m_reopenOffer(m_surroundings, m_keptEdits,
+          [this](const KeptEdit& edit, std::unique_ptr<EditJournal> journal) {
+              m_editors.reopen(edit, std::move(journal));
+          })
     , m_preview(m_surroundings, prefs, m_fun, actions(), platform.words.showInFolder)
     , m_effects({*platform.displays, *platform.surfaces, m_themes, prefs})
     , m_permission({m_themes, *platform.capture, *platform.workspace, platform.words,
@@ -41,6 +47,7 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
           [this] { return m_platform.activeApplication->isFullScreen(); }})
     , m_updater({prefs, *platform.workspace, platform.words, folders.downloads})
 {
+    connectEditors();
     m_history.install();
     m_fun.install();
     m_skins.install();
@@ -54,11 +61,32 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     });
 }
 
+void Rooms::connectEditors()
+{
+    const auto complain = [this](const QString& title, const QString& why) {
+        m_toast.show({title, why, u"exclamationmark.triangle.fill"_s});
+    };
+    QObject::connect(&m_keptEdits, &KeptEdits::failed, &m_toast,
+        [complain](const QString& why) { complain(u"Edits are not safe"_s, why); });
+    QObject::connect(
+        &m_editors, &Editors::filesDropped, &m_toast, [this, complain](const QStringList& paths) {
+            editFiles(paths).then([complain](const Result<CaptureReport>& report) {
+                if (report && report->outcome != CaptureReport::Outcome::Done)
+                    complain(u"Cannot be opened"_s, report->reason);
+            });
+        });
+}
+
+Pending<CaptureReport> Rooms::editFiles(const QStringList& paths)
+{
+    return openFiles(paths, [this](const FinishedCapture& picture) { m_editors.edit(picture); });
+}
+
 ShotActions Rooms::actions()
 {
     ShotActions actions = m_operations.actions();
     actions.pin = [this](const FinishedCapture& capture) { m_pins.show(capture.shot); };
-    actions.edit = [this](const FinishedCapture& capture) { m_editors.open(capture); };
+    actions.edit = [this](const FinishedCapture& capture) { m_editors.edit(capture); };
     return actions;
 }
 
@@ -80,7 +108,7 @@ CaptureStages Rooms::stages()
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
     };
-    stages.openEditor = [this](const FinishedCapture& capture) { m_editors.open(capture); };
+    stages.openEditor = [this](const FinishedCapture& capture) { m_editors.edit(capture); };
     stages.showHistory = [this] { m_historyWindow.show(); };
     stages.showGallery = [this] { m_galleryWindow.show(); };
     stages.closePreviews = [this] { m_preview.closeAll(); };

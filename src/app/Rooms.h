@@ -4,11 +4,13 @@
 
 #include "app/CaptureStages.h"
 #include "app/ShotOperations.h"
+#include "base/CaptureReport.h"
 #include "capture/Countdown.h"
 #include "capture/OCR.h"
 #include "capture/PermissionWindow.h"
 #include "capture/Toast.h"
 #include "editor/Editors.h"
+#include "editor/keeping/ReopenOffer.h"
 #include "fun/CaptureFx.h"
 #include "fun/GalleryWindow.h"
 #include "fun/PopUps.h"
@@ -43,18 +45,26 @@ public:
     /// Shows a newcomer, once, where the program is and how to begin.
     void welcome();
 
+    /// Offers edits that were left behind when the program ended last.
+    void offerLeftBehind() { m_reopenOffer.show(); }
+
+    /// Opens image files in editors. Done when all of them were.
+    Pending<CaptureReport> editFiles(const QStringList& paths);
+
     /// Takes back what the user is being asked and what is being read; whoever waits for it hears
     /// Cancelled.
     void cancelQuestions();
 
 private:
     ShotActions actions();
+    void connectEditors();
     Pending<RegionResult> selectRegion(const RegionQuestion& question);
     QString regionShortcut() const; ///< As sentences call it; may be empty.
 
     DesktopPlatform& m_platform;
     Prefs& m_prefs;
     HistoryStore m_history; ///< Before all that makes the data folder, which it may have to move.
+    KeptEdits m_keptEdits;
     Fun m_fun;
     Skins m_skins;
     Themes m_themes;
@@ -67,6 +77,7 @@ private:
     ShotOperations m_operations;
     Pins m_pins;
     Editors m_editors;
+    ReopenOffer m_reopenOffer;
     PreviewPanel m_preview;
     CaptureFx m_effects;
     Toast m_toast {m_surroundings};

@@ -4,6 +4,7 @@
 
 #include "base/Prefs.h"
 #include "capture/ShotActions.h"
+#include "editor/keeping/KeptEdits.h"
 #include "fun/Fun.h"
 #include "history/HistoryStore.h"
 #include "platform/Clipboard.h"
@@ -18,6 +19,7 @@ struct EditorMeans {
     const Prefs& prefs;
     Clipboard& clipboard;
     HistoryStore& history;
+    KeptEdits& edits;
     Fun& fun;
     ShotActions actions; ///< To pin, to share and to save elsewhere.
     std::shared_ptr<FaceDetector> faces; ///< Shared with the workers that look.

@@ -43,12 +43,15 @@ TextLabel* newLabel(const Themes& themes, const QString& name)
 
 } // namespace
 
-EditorWindow::EditorWindow(const EditorMeans& means, const FinishedCapture& capture)
+EditorWindow::EditorWindow(
+    const EditorMeans& means, const FinishedCapture& capture, ResumedEdit resumed)
     : m_means(means)
     , m_scale(capture.shot.scale)
     , m_app(capture.shot.app)
     , m_path(capture.path)
     , m_historyId(capture.historyId)
+    , m_journal(resumed.journal ? std::move(resumed.journal) : means.edits.journal(capture))
+    , m_isReopened(resumed.adopted == CanvasDocument::Adopted::Unsaved)
     , m_commands(means.surroundings.themes, *this)
     , m_funMenu(new FunMenu(this))
     , m_toolbar(new EditorToolbar(m_means.surroundings, m_commands, *m_funMenu))
@@ -57,6 +60,8 @@ EditorWindow::EditorWindow(const EditorMeans& means, const FinishedCapture& capt
     , m_subtitle(newLabel(means.surroundings.themes, u"Status"_s))
     , m_magnification(newLabel(means.surroundings.themes, u"Magnification"_s))
 {
+    m_canvas->edit(
+        [&](CanvasModel& model) { model.document().adopt(resumed.annotations, resumed.adopted); });
     arrange();
     connectCommands();
     connectCanvas();
@@ -117,6 +122,8 @@ void EditorWindow::connectCommands()
 void EditorWindow::connectCanvas()
 {
     connect(m_canvas, &EditorCanvas::changed, this, &EditorWindow::refresh);
+    connect(m_canvas, &EditorCanvas::changed, this,
+        [this] { m_journal->note(m_canvas->model().document()); });
     connect(m_canvas, &EditorCanvas::closeRequested, this, &QWidget::close);
     connect(m_canvas, &EditorCanvas::toolChanged, m_toolbar, &EditorToolbar::setTool);
     connect(m_canvas, &EditorCanvas::stickerPlaced, this,
@@ -183,8 +190,13 @@ void EditorWindow::open()
 
 bool EditorWindow::isEdited() const
 {
+    return hasEdits() || m_canvas->model().textPrompt();
+}
+
+bool EditorWindow::hasEdits() const
+{
     const CanvasDocument& document = m_canvas->model().document();
-    return (document.isDirty() && document.canUndo()) || m_canvas->model().textPrompt();
+    return document.isDirty() && (document.canUndo() || m_isReopened);
 }
 
 void EditorWindow::refresh()
@@ -192,8 +204,7 @@ void EditorWindow::refresh()
     const CanvasDocument& document = m_canvas->model().document();
     m_commands[Command::Undo].setEnabled(document.canUndo());
     m_commands[Command::Redo].setEnabled(document.canRedo());
-    setStatus(
-        EditorLayout::subtitle(document.base().size(), document.isDirty() && document.canUndo()));
+    setStatus(EditorLayout::subtitle(document.base().size(), hasEdits()));
     m_isCopied = m_isSavedElsewhere = false;
 }
 
@@ -234,14 +245,22 @@ Shot EditorWindow::flattened()
     return {m_canvas->flattened(), m_scale, m_app, {}};
 }
 
+/// The picture as it leaves the editor.
+Shot EditorWindow::exported()
+{
+    const Shot shot = flattened();
+    m_journal->exported(m_canvas->model().document(), shot.image);
+    return shot;
+}
+
 void EditorWindow::pin()
 {
-    m_means.actions.pin({flattened()});
+    m_means.actions.pin({exported()});
 }
 
 void EditorWindow::copy()
 {
-    const Shot shot = flattened();
+    const Shot shot = exported();
     const auto png = Files::encode(shot.image, ImageType::Png, m_scale);
     Files::copy(m_means.clipboard, shot.image, m_scale, png ? *png : QByteArray());
     m_isCopied = true;
@@ -252,7 +271,7 @@ void EditorWindow::saveAs()
 {
     const QPointer window(this);
     const std::size_t steps = m_canvas->model().document().undoSteps();
-    m_means.actions.saveAs({flattened()}, this).then([window, steps](const Result<QString>& told) {
+    m_means.actions.saveAs({exported()}, this).then([window, steps](const Result<QString>& told) {
         if (!window || (!told && told.error().isCancelled()))
             return;
         window->setStatus(told ? *told : told.error().message);
@@ -267,7 +286,7 @@ void EditorWindow::saveAs()
 void EditorWindow::share()
 {
     // Only an unedited picture is the one in its file.
-    const FinishedCapture capture {flattened(), isEdited() ? QString() : m_path};
+    const FinishedCapture capture {exported(), isEdited() ? QString() : m_path};
     const QPointer window(this);
     m_means.actions.share(capture, &m_toolbar->anchor(Command::Share))
         .then([window](const Result<QString>& told) {
@@ -361,6 +380,8 @@ Result<void> EditorWindow::carryOut(const ClosingRules::Plan& plan, const Shot& 
     m_isFailed = !kept;
     if (!kept)
         return kept.error();
+    m_journal->moveTo(kept->path, kept->historyId);
+    m_journal->exported(m_canvas->model().document(), shot.image, kept->path);
     m_canvas->edit([](CanvasModel& model) { model.document().setClean(); });
     m_isCopied = false;
     return {};
@@ -379,6 +400,7 @@ void EditorWindow::closeEvent(QCloseEvent* event)
         m_notice->tell(kept.error().message);
         return;
     }
+    m_journal->close();
     event->accept();
     Q_EMIT closed();
 }

@@ -11,6 +11,13 @@ class EditorToolbar;
 class FunMenu;
 class TextLabel;
 
+/// What an editor goes on with from an earlier time.
+struct ResumedEdit {
+    std::vector<Mark::Copy> annotations {};
+    CanvasDocument::Adopted adopted = CanvasDocument::Adopted::Saved;
+    std::unique_ptr<EditJournal> journal {}; ///< None: a new one.
+};
+
 /// Shows one picture in a canvas, with tools and what can be done with the result. Closing keeps
 /// what was edited, as ClosingRules say, and nobody is asked; where that fails, the window stays
 /// and says why.
@@ -18,7 +25,8 @@ class EditorWindow final : public QWidget {
     Q_OBJECT
 
 public:
-    EditorWindow(const EditorMeans& means, const FinishedCapture& capture);
+    EditorWindow(
+        const EditorMeans& means, const FinishedCapture& capture, ResumedEdit resumed = {});
     ~EditorWindow() override;
 
     /// Shows it in the middle of the screen under the pointer.
@@ -71,6 +79,8 @@ private:
     void coverFaces(const QString& emoji);
 
     Shot flattened();
+    Shot exported();
+    bool hasEdits() const;
     ClosingRules::Situation situation() const;
     Result<void> carryOut(const ClosingRules::Plan& plan, const Shot& shot);
 
@@ -79,6 +89,8 @@ private:
     const QString m_app;
     QString m_path;
     QString m_historyId;
+    const std::unique_ptr<EditJournal> m_journal;
+    const bool m_isReopened; ///< With edits that are nowhere yet.
     EditorCommands m_commands;
     FunMenu* m_funMenu;
     EditorToolbar* m_toolbar;

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "editor/Editors.h"
 
+#include "editor/ImageDrops.h"
+
 #include <QFileInfo>
+#include <QPointer>
 
 Editors::Editors(EditorMeans means)
     : m_means(std::move(means))
@@ -14,7 +17,29 @@ Editors::~Editors()
     qDeleteAll(m_windows);
 }
 
-EditorWindow& Editors::open(const FinishedCapture& capture)
+void Editors::edit(const FinishedCapture& capture)
+{
+    const QPointer editors(this);
+    m_means.edits.find(capture).then([editors, capture](const auto& found) {
+        if (!editors)
+            return;
+        if (!found || !*found)
+            editors->open(capture);
+        else
+            editors->open({.shot = {(*found)->capture.shot.image, capture.shot.scale,
+                               capture.shot.app, capture.shot.area},
+                              .path = capture.path,
+                              .historyId = capture.historyId},
+                {.annotations = (*found)->annotations});
+    });
+}
+
+void Editors::reopen(const KeptEdit& edit, std::unique_ptr<EditJournal> journal)
+{
+    open(edit.capture, {edit.annotations, CanvasDocument::Adopted::Unsaved, std::move(journal)});
+}
+
+EditorWindow& Editors::open(const FinishedCapture& capture, ResumedEdit resumed)
 {
     if (EditorWindow* const window = showing(capture)) {
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
@@ -22,11 +47,12 @@ EditorWindow& Editors::open(const FinishedCapture& capture)
         window->activateWindow();
         return *window;
     }
-    auto* window = new EditorWindow(m_means, capture);
+    auto* window = new EditorWindow(m_means, capture, std::move(resumed));
     connect(window, &EditorWindow::closed, this, [this, window] {
         m_windows.removeOne(window);
         window->deleteLater();
     });
+    new ImageDrops(*window, [this](const QStringList& paths) { Q_EMIT filesDropped(paths); });
     m_windows << window;
     window->open();
     return *window;
@@ -47,8 +73,12 @@ EditorWindow* Editors::showing(const FinishedCapture& capture) const
 void Editors::closeNow()
 {
     for (EditorWindow* const window : QList(m_windows)) {
-        if (const auto rescued = window->rescueEdit(); !rescued)
-            qWarning("pixmallow: an edit is lost: %s", qPrintable(rescued.error().message));
+        if (const auto rescued = window->rescueEdit(); !rescued) {
+            qWarning("pixmallow: an edit is not saved: %s", qPrintable(rescued.error().message));
+            m_windows.removeOne(window);
+            delete window; // Its journal stays, to be offered at the next start.
+            continue;
+        }
         window->discardEdit();
     }
 }
