@@ -41,4 +41,61 @@ take_pictures() {
         scrot -o "$picture"
         xdotool key Escape
         wait || true'
+
+    # shellcheck disable=SC2016
+    picture card 1440x900 '
+        pixmallow capture screen --wait
+        sleep 2.2
+        scrot -a 1040,500,400,400 -o "$picture"
+        pixmallow quit' --tray --clients
+
+    # shellcheck disable=SC2016
+    picture editor 1440x900 '
+        drag() { xdotool mousemove "$1" "$2" mousedown 1 mousemove "$3" "$4" mousemove "$5" "$6" mouseup 1; }
+        pixmallow shot --output picture.png
+        pixmallow edit picture.png
+        sleep 2.5
+        xdotool key r; drag 796 164 900 180 1046 200
+        xdotool key a; drag 660 420 700 330 788 212
+        xdotool key b; drag 200 210 300 280 450 330
+        xdotool key n mousemove 890 470 click 1 mousemove 890 540 click 1
+        xdotool key s mousemove 420 600 click 1
+        xdotool key t mousemove 560 470 click 1
+        sleep 0.5
+        xdotool type "Read this"
+        sleep 0.5
+        xdotool mousemove 1200 760 click 1
+        sleep 0.5
+        xdotool key v mousemove 700 210
+        sleep 0.5
+        scrot -u -o "$picture"
+        pixmallow quit'
+
+    # shellcheck disable=SC2016
+    picture history 1440x900 '
+        mkdir -p ~/.config/Pixmallow
+        echo "{\"afterCapture\":\"none\",\"achievementToasts\":false}" >~/.config/Pixmallow/preferences.json
+        region() {
+            pixmallow capture region --wait &
+            sleep 1.2
+            xdotool mousemove "$1" "$2" mousedown 1 mousemove $(($1 + 40)) $(($2 + 40)) \
+                mousemove $(($1 + $3)) $(($2 + $4)) mouseup 1
+            wait $!
+        }
+        region 840 120 480 330; region 60 60 700 500; region 1000 560 320 220
+        region 400 500 480 260; region 700 90 560 300; pixmallow capture screen --wait
+        pixmallow history
+        sleep 2
+        scrot -u -o "$picture"
+        pixmallow quit'
+
+    # shellcheck disable=SC2016
+    picture gallery 1440x900 '
+        mkdir -p ~/.config/Pixmallow
+        echo "{\"afterCapture\":\"none\",\"achievementToasts\":false}" >~/.config/Pixmallow/preferences.json
+        for _ in 1 2 3; do pixmallow capture screen --wait; sleep 0.3; done
+        pixmallow gallery
+        sleep 2
+        scrot -u -o "$picture"
+        pixmallow quit'
 }
