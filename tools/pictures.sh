@@ -52,6 +52,7 @@ take_pictures() {
     # shellcheck disable=SC2016
     picture editor 1440x900 '
         drag() { xdotool mousemove "$1" "$2" mousedown 1 mousemove "$3" "$4" mousemove "$5" "$6" mouseup 1; }
+        cd
         pixmallow shot --output picture.png
         pixmallow edit picture.png
         sleep 2.5
