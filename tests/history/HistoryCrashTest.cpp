@@ -19,6 +19,10 @@ namespace {
 
 constexpr int limit = 20;
 
+/// Before the toolkit starts. GLib has a lock of its own that may be held by a thread when this
+/// process forks; the child's threads would wait for it for ever.
+const bool isWithoutGLib = qputenv("QT_NO_GLIB", "1");
+
 /// Adds until it is killed; writes each id that add() returned, as fixed a length as they have.
 [[noreturn]] void addForEver(const QString& root, int round, int report)
 {
