@@ -22,6 +22,10 @@ public:
     /// Shows where the user decides which program may see the screen, or the settings as a whole.
     virtual Pending<void> openPermissionSettings() = 0;
 
+    /// Whether the desktop starts this program when the user logs in.
+    virtual bool startsAtLogin() const = 0;
+    virtual Result<void> setStartsAtLogin(bool starts) = 0;
+
     /// Starts this program again in its own place.
     virtual void relaunch() = 0;
 };

@@ -43,11 +43,18 @@ public:
         ++settingsOpened;
         return Pending<void>::answered(result);
     }
+    bool startsAtLogin() const override { return isStarted; }
+    Result<void> setStartsAtLogin(bool starts) override
+    {
+        isStarted = starts;
+        return result;
+    }
     void relaunch() override { ++relaunches; }
 
     QString revealed, opened, mailed, openedWith;
     int settingsOpened = 0;
     int relaunches = 0;
+    bool isStarted = false; ///< At login.
     Result<void> result;
 
 private:

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/DesktopWorkspace.h"
 
+#include "platform/freedesktop/Autostart.h"
+
 #include "platform/freedesktop/PortalRequest.h"
 
 #include <QDBusConnection>
@@ -158,6 +160,17 @@ Pending<void> DesktopWorkspace::openPermissionSettings()
         return Pending<void>::answered({});
     return Pending<void>::answered(
         Error::failed(u"The settings of this desktop could not be opened."_s));
+}
+
+bool DesktopWorkspace::startsAtLogin() const
+{
+    return Autostart::isOn(Autostart::userFolder());
+}
+
+Result<void> DesktopWorkspace::setStartsAtLogin(bool starts)
+{
+    return Autostart::set(
+        Autostart::userFolder(), QCoreApplication::applicationFilePath(), starts);
 }
 
 void DesktopWorkspace::relaunch()

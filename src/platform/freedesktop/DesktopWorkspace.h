@@ -13,5 +13,7 @@ public:
     Pending<void> mail(const QString& path) override;
     Pending<void> openWith(const QString& path) override;
     Pending<void> openPermissionSettings() override;
+    bool startsAtLogin() const override;
+    Result<void> setStartsAtLogin(bool starts) override;
     void relaunch() override;
 };
