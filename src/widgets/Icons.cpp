@@ -46,7 +46,9 @@ public:
 
     void paint(QPainter* painter, const QRect& box, QIcon::Mode mode, QIcon::State) override
     {
-        QColor colour = mode == QIcon::Active ? m_active : m_colour;
+        // Of a menu's row that is chosen, and of a list's.
+        const bool isChosen = mode == QIcon::Active || mode == QIcon::Selected;
+        QColor colour = isChosen ? m_active : m_colour;
         if (mode == QIcon::Disabled)
             colour.setAlphaF(colour.alphaF() * 0.4f);
         Icons::paint(*painter, m_symbol, box, std::min(box.width(), box.height()), colour);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/PanelPlacement.h"
 
+#include "widgets/Theme.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -41,4 +43,19 @@ QRect PanelPlacement::centred(const Screen& screen, QSize panel)
 {
     const QSize left = screen.frame.size() - panel;
     return {screen.frame.topLeft() + QPoint(left.width() / 2, left.height() / 2), panel};
+}
+
+QRect PanelPlacement::beside(const Screen& screen, QSize panel, QPoint place)
+{
+    const QRect area = screen.workArea.marginsRemoved(
+        {Space::related, Space::related, Space::related, Space::related});
+    const bool isAbove = place.y() > screen.frame.center().y();
+    const auto within = [](int at, int length, int low, int high) {
+        return std::max(low, std::min(at, high + 1 - length));
+    };
+    // Not under the pointer, which would press what comes to lie there.
+    const int top = isAbove ? place.y() - Space::inner - panel.height() : place.y() + Space::inner;
+    return {QPoint(within(place.x() - panel.width() / 2, panel.width(), area.left(), area.right()),
+                within(top, panel.height(), area.top(), area.bottom())),
+        panel};
 }

@@ -21,6 +21,8 @@ Screen under(QPoint pointer, const QList<Screen>& screens);
 
 QRect bottomRight(const Screen& screen, QSize panel, int margin); ///< In the work area.
 QRect topRight(const Screen& screen, QSize panel, int margin); ///< In the work area.
+/// In the middle below a place, or above it in the lower half of the screen; in the work area.
+QRect beside(const Screen& screen, QSize panel, QPoint place);
 QRect centred(const Screen& screen, QSize panel); ///< On the whole screen.
 
 } // namespace PanelPlacement

@@ -83,7 +83,7 @@ void CheckStyle::paintSwitch(
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.hairline);
     painter.drawEllipse(knob.adjusted(-0.5, 0.5, 0.5, 1.5));
-    painter.setBrush(
-        Contrast::mixed(theme.dark ? theme.secondary : QColor(Qt::white), theme.onAccent, on));
+    const QColor knobOn = theme.dark ? theme.text : QColor(Qt::white);
+    painter.setBrush(Contrast::mixed(theme.dark ? theme.secondary : knobOn, knobOn, on));
     painter.drawEllipse(knob);
 }

@@ -48,11 +48,12 @@ void FrameStyle::paintSeparator(QPainter& painter, const QStyleOption& option, c
             option.rect.width() - 2 * Space::tiny, 1, theme.hairline);
 }
 
-void FrameStyle::paintFocus(QPainter& painter, const QStyleOption& option, const Theme& theme)
+void FrameStyle::paintFocus(
+    QPainter& painter, const QStyleOption& option, const Theme& theme, double radius)
 {
     const StyleTools::Stroke stroke(painter, option.state);
-    StyleTools::paintBox(painter, option.rect, Radius::cell + 2 * Extent::focusRing,
-        Qt::transparent, theme.accentSymbol, Extent::focusRing);
+    StyleTools::paintBox(painter, option.rect, radius + 2 * Extent::focusRing, Qt::transparent,
+        theme.accentSymbol, Extent::focusRing);
 }
 
 bool FrameStyle::paintLine(QPainter& painter, const QStyleOption& option, const Theme& theme)

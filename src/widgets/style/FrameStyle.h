@@ -21,7 +21,9 @@ void paintItem(QPainter& painter, const QStyleOption& option, const Theme& theme
 QSize itemSize(QSize contents);
 
 void paintSeparator(QPainter& painter, const QStyleOption& option, const Theme& theme);
-void paintFocus(QPainter& painter, const QStyleOption& option, const Theme& theme);
+
+/// @param radius of the corners of what the ring is around
+void paintFocus(QPainter& painter, const QStyleOption& option, const Theme& theme, double radius);
 
 /// Whether the frame is a line, which is painted then.
 bool paintLine(QPainter& painter, const QStyleOption& option, const Theme& theme);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/style/HouseStyle.h"
 
+#include "widgets/Switch.h"
 #include "widgets/style/ButtonStyle.h"
 #include "widgets/style/CheckStyle.h"
 #include "widgets/style/FieldStyle.h"
@@ -9,6 +10,7 @@
 #include "widgets/style/RangeStyle.h"
 
 #include <QAbstractScrollArea>
+#include <QFocusFrame>
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
@@ -40,6 +42,14 @@ QColor groundIn(const QWidget* frame)
     if (!area)
         return Qt::transparent;
     return area->viewport()->palette().color(area->viewport()->backgroundRole());
+}
+
+/// The corner radius of what a focus ring is around.
+double cornersIn(const QWidget* ring)
+{
+    const auto* frame = qobject_cast<const QFocusFrame*>(ring);
+    const auto* toggle = frame ? qobject_cast<const Switch*>(frame->widget()) : nullptr;
+    return toggle ? toggle->height() / 2.0 : Radius::cell;
 }
 
 QRegion rounded(QRect box, double radius)
@@ -168,7 +178,7 @@ bool HouseStyle::paintControl(ControlElement element, const QStyleOption& option
             RangeStyle::paintProgress(painter, *bar, m_theme);
         return true;
     case CE_FocusFrame:
-        FrameStyle::paintFocus(painter, option, m_theme);
+        FrameStyle::paintFocus(painter, option, m_theme, cornersIn(widget));
         return true;
     case CE_ShapedFrame:
         return FrameStyle::paintLine(painter, option, m_theme);

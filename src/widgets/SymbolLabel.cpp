@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "widgets/SymbolLabel.h"
+
+#include "widgets/Icons.h"
+
+#include <QPainter>
+
+SymbolLabel::SymbolLabel(const Themes& themes, QString symbol, Role role)
+    : m_themes(themes)
+    , m_symbol(std::move(symbol))
+    , m_role(role)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(&m_themes, &Themes::changed, this, qOverload<>(&QWidget::update));
+}
+
+QSize SymbolLabel::sizeHint() const
+{
+    return {Extent::symbol, Extent::symbol};
+}
+
+void SymbolLabel::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = m_themes.current();
+    QPainter painter(this);
+    Icons::paint(painter, m_symbol, rect(), Extent::symbol,
+        m_role == Role::Failure ? theme.failure : theme.text);
+}
