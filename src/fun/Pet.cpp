@@ -21,6 +21,14 @@ int Pet::level(qint64 xp)
     return int(std::sqrt(double(std::max<qint64>(xp, 0)) / xpOfLevel2)) + 1;
 }
 
+double Pet::progress(qint64 xp)
+{
+    const auto begins = [](qint64 level) { return 40 * (level - 1) * (level - 1); };
+    const int now = level(xp);
+    const double way = double(begins(now + 1) - begins(now));
+    return std::clamp(double(xp - begins(now)) / way, 0.0, 1.0);
+}
+
 std::size_t Pet::stage(int level)
 {
     const auto above = std::ranges::upper_bound(stageAt, std::max(level, stageAt.front()));

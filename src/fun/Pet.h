@@ -28,6 +28,9 @@ inline constexpr std::array<QStringView, 8> idleLines {u"feed me screenshots",
 /// 1 at first; level n takes 40 × (n − 1)² points.
 int level(qint64 xp);
 
+/// How much of the way from its level to the next one is done: from 0 to less than 1.
+double progress(qint64 xp);
+
 /// Of a level: an index into the tables above.
 std::size_t stage(int level);
 
