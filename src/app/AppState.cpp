@@ -86,10 +86,14 @@ void AppState::adoptPreference(const QString& key)
 void AppState::registerHotkeys()
 {
     m_hotkeys.unregisterAll();
-    for (const auto& info : captureKinds)
-        if (const auto combo = hotkey(info.kind))
-            m_hotkeys.registerCombo(*combo, [this, kind = info.kind] { capture(kind); });
+    m_refused.clear();
+    for (const auto& info : captureKinds) {
+        const auto combo = hotkey(info.kind);
+        if (combo && !m_hotkeys.registerCombo(*combo, [this, kind = info.kind] { capture(kind); }))
+            m_refused << info.kind;
+    }
     m_platform.hotkeys->setSeesGrabbedKeyboards(m_prefs.get(Prefs::keys.captureOpenMenus));
+    Q_EMIT hotkeysRegistered();
 }
 
 std::optional<KeyCombo> AppState::hotkey(CaptureKind kind) const
@@ -101,6 +105,16 @@ QString AppState::hotkeyLabel(CaptureKind kind) const
 {
     const auto combo = hotkey(kind);
     return combo ? combo->display() : QString();
+}
+
+bool AppState::isPermitted() const
+{
+    return m_platform.capture->permitted();
+}
+
+void AppState::askForPermission()
+{
+    pass(m_stages.showPermissionWindow);
 }
 
 bool AppState::isAvailable(CaptureKind kind) const

@@ -34,6 +34,8 @@ public:
     /// The shortcut of a kind; none where the user has cleared it.
     std::optional<KeyCombo> hotkey(CaptureKind kind) const;
     QString hotkeyLabel(CaptureKind kind) const; ///< As menus show it; may be empty.
+    /// Whether the system refused the shortcut of a kind when they were last registered.
+    bool isHotkeyRefused(CaptureKind kind) const { return m_refused.contains(kind); }
 
     /// Takes a capture; ignored while another one runs.
     void capture(CaptureKind kind);
@@ -41,12 +43,20 @@ public:
     /// The same, and tells how it ended.
     Pending<CaptureReport> captureAndReport(CaptureKind kind);
 
+    /// Whether the system lets us capture the screen, and how the user is asked for that.
+    bool isPermitted() const;
+    void askForPermission();
+
     /// Whether all that a kind of capture needs is connected.
     bool isAvailable(CaptureKind kind) const;
 
     /// The last capture in the editor, or the history when there is none.
     void editLast();
 
+    // The rooms that surfaces lead to, and whether they are connected.
+    bool hasEditor() const { return bool(m_stages.openEditor); }
+    bool hasHistory() const { return bool(m_stages.showHistory); }
+    bool hasGallery() const { return bool(m_stages.showGallery); }
     void showHistory();
     void showGallery();
 
@@ -59,6 +69,8 @@ Q_SIGNALS:
     void captureBegan(); ///< isBusy() is true from now on.
     void captureEnded(); ///< However it ended; isBusy() is false from now on.
     void panelRequested(); ///< Somebody started the program again.
+    void settingsRequested(); ///< Its window is wanted.
+    void hotkeysRegistered(); ///< Anew; it is known which ones the system refused.
 
 private:
     void follow(const Application& application);
@@ -79,6 +91,7 @@ private:
     HotkeyCenter& m_hotkeys;
     const CaptureStages m_stages;
     ShotTaker m_shots;
+    QList<CaptureKind> m_refused; ///< Kinds whose shortcut we were not given.
     std::optional<FinishedCapture> m_last;
     std::optional<Application> m_lastOtherApp;
     bool m_busy = false;

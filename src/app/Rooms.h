@@ -32,9 +32,16 @@ public:
 
     CaptureStages stages();
 
+    // For the surfaces that lead to them.
+    const Surroundings& surroundings() const { return m_surroundings; }
+    HistoryStore& history() { return m_history; }
+    Fun& fun() { return m_fun; }
+    Skins& skins() { return m_skins; }
+    Sounds& sounds() { return m_sounds; }
     CaptureFx& effects() { return m_effects; }
     Pins& pins() { return m_pins; }
     Editors& editors() { return m_editors; }
+    ShotActions actions(); ///< All that can be done with a capture.
     HistoryWindow& historyWindow() { return m_historyWindow; }
     Updater& updater() { return m_updater; }
 
@@ -56,7 +63,6 @@ public:
     void cancelQuestions();
 
 private:
-    ShotActions actions();
     void connectEditors();
     Pending<RegionResult> selectRegion(const RegionQuestion& question);
     QString regionShortcut() const; ///< As sentences call it; may be empty.

@@ -68,7 +68,12 @@ CaptureReport reportFrom(const QJsonObject& object, CaptureReport::Outcome outco
     };
 }
 
-const QString historyCommand = u"history"_s, galleryCommand = u"gallery"_s;
+/// How the windows that can be opened are called.
+constexpr std::array<std::pair<Control::Show::What, QLatin1String>, 3> windows {{
+    {Control::Show::What::History, QLatin1String("history")},
+    {Control::Show::What::Gallery, QLatin1String("gallery")},
+    {Control::Show::What::Settings, QLatin1String("settings")},
+}};
 
 struct RequestWriter {
     QJsonObject operator()(Control::ShowPanel) const { return {{u"command"_s, u"panel"_s}}; }
@@ -88,8 +93,9 @@ struct RequestWriter {
     }
     QJsonObject operator()(Control::Show show) const
     {
-        const bool isHistory = show.what == Control::Show::What::History;
-        return {{u"command"_s, isHistory ? historyCommand : galleryCommand}};
+        const auto window
+            = std::ranges::find(windows, show.what, &decltype(windows)::value_type::first);
+        return {{u"command"_s, window->second}};
     }
 };
 
@@ -139,10 +145,9 @@ Result<Control::Request> Control::requestFrom(const QByteArray& line)
         return Request(ShowPanel {});
     if (command == u"quit"_s)
         return Request(Quit {});
-    if (command == historyCommand)
-        return Request(Show {Show::What::History});
-    if (command == galleryCommand)
-        return Request(Show {Show::What::Gallery});
+    for (const auto& [what, name] : windows)
+        if (command == name)
+            return Request(Show {what});
     if (command == u"pin"_s)
         return pathsFrom<Pin>(object->value(u"paths").toArray());
     if (command == u"edit"_s)

@@ -32,7 +32,7 @@ struct Edit {
 };
 /// Opens one of the windows.
 struct Show {
-    enum class What { History, Gallery } what = What::History;
+    enum class What { History, Gallery, Settings } what = What::History;
 };
 using Request = std::variant<ShowPanel, Capture, Quit, Pin, Edit, Show>;
 

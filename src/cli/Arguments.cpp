@@ -146,9 +146,11 @@ QList<Command> commands(const QStringList& arguments)
         {u"edit"_s, {}, anyNumber, edit},
         {u"text"_s, {flag(u"json"_s)}, anyNumber, text},
         {u"history"_s, {}, 0,
-            [](auto&) { return Request(ShowRequest {ShowRequest::What::History}); }},
+            [](auto&) { return Request(ShowRequest {Control::Show::What::History}); }},
+        {u"settings"_s, {}, 0,
+            [](auto&) { return Request(ShowRequest {Control::Show::What::Settings}); }},
         {u"gallery"_s, {}, 0,
-            [](auto&) { return Request(ShowRequest {ShowRequest::What::Gallery}); }},
+            [](auto&) { return Request(ShowRequest {Control::Show::What::Gallery}); }},
         {u"quit"_s, {}, 0, [](auto&) { return Request(QuitRequest {}); }},
         {{}, {flag(u"replace"_s), flag(u"background"_s)}, 0,
             [&](auto&) { return Request(LaunchRequest {arguments}); }},
@@ -211,6 +213,7 @@ usage:
   pixmallow edit FILE...
   pixmallow history
   pixmallow gallery
+  pixmallow settings
   pixmallow quit
   pixmallow shot [--output FILE|-] [--screen N | --window ID | --area X,Y,WxH]
                  [--cursor] [--shadow] [--json]
@@ -237,9 +240,9 @@ edit   Opens image files in the editor, and starts Pixmallow if it does not run.
        Closing keeps the edit: PNG and JPEG files are replaced, for others there
        is a new PNG file beside them.
 
-history, gallery
-       Opens the window of past captures, or the one of achievements and the
-       pet, and starts Pixmallow if it does not run.
+history, gallery, settings
+       Opens the window of past captures, of achievements and the pet, or of
+       all that can be set, and starts Pixmallow if it does not run.
 
 quit   Ends Pixmallow, if it runs.
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "base/CaptureKind.h"
+#include "base/Control.h"
 #include "base/Result.h"
 
 #include <QRect>
@@ -62,7 +62,7 @@ struct EditRequest {
 
 /// Opening a window of the resident program.
 struct ShowRequest {
-    enum class What { History, Gallery } what = What::History;
+    Control::Show::What what = Control::Show::What::History;
 };
 
 struct QuitRequest { };

@@ -21,9 +21,7 @@ Result<void> runShow(const ShowRequest& request)
     auto resident = ResidentProgram::reach(Folders::ofUser());
     if (!resident)
         return resident.error();
-    const bool isHistory = request.what == ShowRequest::What::History;
-    using What = Control::Show::What;
-    const auto answer = resident->ask(Control::Show {isHistory ? What::History : What::Gallery});
+    const auto answer = resident->ask(Control::Show {request.what});
     return answer ? Result<void>() : answer.error();
 }
 
