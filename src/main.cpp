@@ -9,7 +9,7 @@
 #include "app/TextCommand.h"
 #include "base/ControlClient.h"
 #include "capture/Files.h"
-#include "ui/TrayItem.h"
+#include "ui/Surfaces.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -73,13 +73,11 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     AppState state(*platform, prefs, hotkeys, rooms.stages());
     state.install();
     state.start();
-    TrayItem tray(state, prefs);
-    QObject::connect(&state, &AppState::panelRequested, &tray, &TrayItem::showMenu);
     QObject::connect(&state, &AppState::captureBegan, [&rooms] { rooms.captureBegins(); });
     QObject::connect(&state, &AppState::captureEnded, [&rooms] { rooms.captureEnded(); });
     QObject::connect(&rooms.historyWindow(), &HistoryWindow::captureWanted, &state,
         [&state] { state.capture(CaptureKind::Region); });
-    rooms.effects().setTrayIcon([&tray] { return tray.position(); });
+    Surfaces surfaces(*platform, prefs, rooms, state, hotkeys);
 
     rooms.updater().start();
     if (start == Start::Seen)
@@ -101,9 +99,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
                 [&rooms](const FinishedCapture& picture) { rooms.pins().show(picture.shot); });
         },
         [&rooms](const QStringList& paths) { return rooms.editFiles(paths); },
-        [&state](Control::Show::What what) {
-            what == Control::Show::What::History ? state.showHistory() : state.showGallery();
-        }});
+        [&state](Control::Show::What what) { state.show(what); }});
     const int code = QApplication::exec();
     rooms.cancelQuestions();
     finishCapture(state);
@@ -116,6 +112,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
 int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(u"pixmallow"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(PIXMALLOW_VERSION));
     if (argc > 1 && std::strcmp(argv[1], "--text") == 0) {
         const QCoreApplication application(argc, argv);
         return runTextCommand(QCoreApplication::arguments().mid(2));

@@ -334,6 +334,18 @@ void AppState::showGallery()
     pass(m_stages.showGallery);
 }
 
+void AppState::show(Control::Show::What window)
+{
+    switch (window) {
+    case Control::Show::What::History:
+        return showHistory();
+    case Control::Show::What::Gallery:
+        return showGallery();
+    case Control::Show::What::Settings:
+        Q_EMIT settingsRequested();
+    }
+}
+
 void AppState::fail(const ToastMessage& toast)
 {
     m_report.outcome = CaptureReport::Outcome::Failed;

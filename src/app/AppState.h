@@ -5,6 +5,7 @@
 #include "app/CaptureStages.h"
 #include "base/CaptureKind.h"
 #include "base/CaptureReport.h"
+#include "base/Control.h"
 #include "base/Prefs.h"
 #include "capture/ShotTaker.h"
 #include "platform/DesktopPlatform.h"
@@ -59,6 +60,7 @@ public:
     bool hasGallery() const { return bool(m_stages.showGallery); }
     void showHistory();
     void showGallery();
+    void show(Control::Show::What window); ///< That was asked for by another program.
 
     const std::optional<FinishedCapture>& last() const { return m_last; }
     const std::optional<Application>& lastOtherApp() const { return m_lastOtherApp; }

@@ -5,7 +5,6 @@
 #include "app/AppState.h"
 
 #include <QApplication>
-#include <QCursor>
 
 using namespace Qt::StringLiterals;
 
@@ -36,7 +35,7 @@ TrayItem::TrayItem(AppState& state, const Prefs& prefs)
     connect(&m_icon, &QSystemTrayIcon::activated, this,
         [this](QSystemTrayIcon::ActivationReason reason) {
             if (reason == QSystemTrayIcon::Trigger)
-                showMenu();
+                Q_EMIT clicked();
         });
     // Delay and shortcuts stand in the titles. Some trays copy a menu once, so it changes in place.
     connect(&m_prefs, &Prefs::changed, this, [this](const QString& key) {
@@ -61,13 +60,8 @@ void TrayItem::fillMenu()
             label(*action, *shortcut);
     }
     m_menu.addSeparator();
+    m_menu.addAction(u"Settings…"_s, &m_state, &AppState::settingsRequested);
     m_menu.addAction(u"Quit Pixmallow"_s, qApp, &QCoreApplication::quit);
-}
-
-void TrayItem::showMenu()
-{
-    const auto icon = position();
-    m_menu.popup(icon ? icon->toPoint() : QCursor::pos());
 }
 
 std::optional<QPointF> TrayItem::position() const

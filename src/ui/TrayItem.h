@@ -11,21 +11,22 @@
 
 class AppState;
 
-/// The program's place in the tray: captures and quit. Where no tray runs, nothing is shown until
-/// one comes.
+/// The program's place in the tray. A click is told; the other button opens a plain menu of
+/// captures, settings and quit, which trays that show menus by themselves have as well. Where no
+/// tray runs, nothing is shown until one comes.
 class TrayItem final : public QObject {
     Q_OBJECT
 
 public:
     TrayItem(AppState& state, const Prefs& prefs);
 
-    /// At the icon where its place is known, else at the pointer.
-    void showMenu();
-
     /// The middle of the icon in points of the desktop, y down; none where the tray does not tell.
     std::optional<QPointF> position() const;
 
     const QMenu& menu() const { return m_menu; }
+
+Q_SIGNALS:
+    void clicked();
 
 private:
     void fillMenu();

@@ -6,6 +6,7 @@
 #include "editor/keeping/ReopenView.h"
 #include "preview/PreviewView.h"
 #include "tests/gallery/ControlScenes.h"
+#include "tests/gallery/SettingsScenes.h"
 #include "update/UpdateView.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
@@ -114,7 +115,7 @@ std::unique_ptr<QWidget> permission(GalleryWorld& world, bool granted)
 
 const QList<Scene>& scenes()
 {
-    static const QList<Scene> list {
+    static const QList<Scene> list = QList<Scene> {
         {u"buttons"_s, Scene::Ground::Window, buttons},
         {u"letters"_s, Scene::Ground::Window, letters},
         {u"controls"_s, Scene::Ground::Window, ControlScenes::controls},
@@ -145,6 +146,6 @@ const QList<Scene>& scenes()
             [](GalleryWorld& world) { return permission(world, true); }},
         {u"permission"_s, Scene::Ground::None,
             [](GalleryWorld& world) { return permission(world, false); }},
-    };
+    } + settingsScenes();
     return list;
 }

@@ -41,7 +41,7 @@ TEST(TrayItemTest, tellsTheShortcutsInSignsAndInWords)
         QStringList({u"Capture window\t⌃⇧2 | Capture window, Ctrl+Shift+2"_s,
             u"Capture screen\t⌃⇧3 | Capture screen, Ctrl+Shift+3"_s,
             u"Delayed capture (3 s)\t⌃⇧4 | Delayed capture (3 s), Ctrl+Shift+4"_s,
-            u"Quit Pixmallow | Quit Pixmallow"_s}));
+            u"Settings… | Settings…"_s, u"Quit Pixmallow | Quit Pixmallow"_s}));
 
     prefs.set(Prefs::keys.hkWindow, u"36:2304:↩"_s);
     prefs.set(Prefs::keys.hkScreen, QString());

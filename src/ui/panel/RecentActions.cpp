@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "ui/panel/RecentActions.h"
+
+#include "base/Worker.h"
+
+#include <QImageReader>
+#include <QMenu>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+FinishedCapture captureOf(const HistoryItem& item, const QImage& image)
+{
+    // A copy that only the history has is no file of the user's.
+    return {{image, item.scale, item.app, {}}, item.cached ? QString() : item.path, item.id};
+}
+
+} // namespace
+
+RecentActions::RecentActions(ShotActions actions, QString revealTitle)
+    : m_actions(std::move(actions))
+    , m_revealTitle(std::move(revealTitle))
+{
+}
+
+void RecentActions::with(const HistoryItem& item, std::function<void(const FinishedCapture&)> act)
+{
+    auto read = [path = item.path]() -> Result<QImage> {
+        QImageReader reader(path);
+        const QImage image = reader.read();
+        if (image.isNull())
+            return Error::failed(reader.errorString());
+        return image;
+    };
+    const QPointer self(this);
+    runOnWorker(read).then([self, item, act = std::move(act)](const Result<QImage>& image) {
+        if (self && image)
+            act(captureOf(item, *image));
+    });
+}
+
+void RecentActions::edit(const HistoryItem& item)
+{
+    with(item, m_actions.edit);
+}
+
+void RecentActions::copy(const HistoryItem& item)
+{
+    with(item, [this](const FinishedCapture& capture) { std::ignore = m_actions.copy(capture); });
+}
+
+void RecentActions::pin(const HistoryItem& item)
+{
+    with(item, m_actions.pin);
+}
+
+void RecentActions::fill(QMenu& menu, const HistoryItem& item, QWidget* asking)
+{
+    const auto add = [&](const QString& title, bool isOffered,
+                         const std::function<void(const FinishedCapture&)>& act) {
+        if (isOffered)
+            menu.addAction(title, this, [this, item, act] { with(item, act); });
+    };
+    add(u"Edit"_s, bool(m_actions.edit), m_actions.edit);
+    add(u"Copy"_s, bool(m_actions.copy),
+        [this](const FinishedCapture& capture) { std::ignore = m_actions.copy(capture); });
+    add(u"Pin"_s, bool(m_actions.pin), m_actions.pin);
+    add(u"Save As…"_s, bool(m_actions.saveAs), [this, asking](const FinishedCapture& capture) {
+        std::ignore = m_actions.saveAs(capture, asking);
+    });
+    add(m_revealTitle, m_actions.reveal && !item.cached, m_actions.reveal);
+}

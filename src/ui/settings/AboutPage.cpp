@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "ui/settings/SettingsPages.h"
+
+#include "widgets/TextLabel.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int iconSize = 88; // Points.
+
+TextLabel* line(const Themes& themes, TextStyle style, const QString& text, TextLabel::Role role)
+{
+    auto* label = new TextLabel(themes, style, role);
+    label->setAlignment(Qt::AlignHCenter);
+    label->setText(text);
+    return label;
+}
+
+} // namespace
+
+void SettingsPages::fillAbout(SettingsPage& page, const SettingsMeans& means)
+{
+    auto* about = new QWidget;
+    auto* column = new QVBoxLayout(about);
+    column->setSpacing(Space::tiny);
+    auto* icon = new QLabel;
+    icon->setAlignment(Qt::AlignHCenter);
+    icon->setPixmap(
+        QIcon(u":/pixmallow.svg"_s).pixmap(QSize(iconSize, iconSize), page.devicePixelRatioF()));
+    column->addWidget(icon);
+    column->addWidget(line(means.themes, TextStyle::Title1, u"Pixmallow"_s, TextLabel::Role::Text));
+    column->addWidget(line(means.themes, TextStyle::Body,
+        u"Version %1"_s.arg(QCoreApplication::applicationVersion()), TextLabel::Role::Secondary));
+    page.addBelow(about);
+
+    RowGroup& tile = page.addGroup();
+    tile.addRow({u"Licence"_s, u"Free software under the MIT licence."_s}, nullptr);
+    tile.addRow({u"Your captures stay with you"_s,
+                    u"Pixmallow sends none of them anywhere, and neither what you do with it."_s},
+        nullptr);
+    tile.addRow(
+        {u"With thanks to"_s, u"Phosphor Icons, Fluent Emoji, Anton, Qt, Tesseract and ISA-L."_s},
+        nullptr);
+}

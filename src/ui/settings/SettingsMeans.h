@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/AppState.h"
+#include "base/Prefs.h"
+#include "fun/CaptureFx.h"
+#include "fun/Fun.h"
+#include "platform/PlatformWords.h"
+#include "platform/Workspace.h"
+#include "skins/Skins.h"
+#include "skins/Sounds.h"
+#include "widgets/Theme.h"
+
+/// What the pages of the settings reach.
+struct SettingsMeans {
+    const Themes& themes;
+    Prefs& prefs;
+    AppState& state;
+    HotkeyCenter& hotkeys;
+    Skins& skins;
+    Sounds& sounds;
+    Fun& fun;
+    Workspace& workspace;
+    const PlatformWords& words;
+    std::function<void()> tryAnimation; ///< Plays the capture animation, on nothing captured.
+    std::function<QWidget*()> updates {}; ///< What the page of updates shows besides; may be empty.
+};

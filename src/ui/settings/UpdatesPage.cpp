@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "ui/settings/SettingsPages.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const PrefKeys& keys = Prefs::keys;
+
+QString lastCheck(const Prefs& prefs)
+{
+    const QDateTime time = prefs.get(keys.lastUpdateCheck);
+    const QString never = u"Not checked yet."_s;
+    return time.isValid() && time > AnyPrefKey(keys.lastUpdateCheck).defaultValue().toDateTime()
+        ? u"Last checked %1."_s.arg(QLocale().toString(time.toLocalTime(), QLocale::ShortFormat))
+        : never;
+}
+
+} // namespace
+
+void SettingsPages::fillUpdates(SettingsPage& page, const SettingsMeans& means)
+{
+    RowGroup& tile = page.addGroup();
+    page.addSwitch(keys.autoUpdate, {u"Check for updates automatically"_s});
+    auto* version
+        = tile.addRow({u"Pixmallow %1"_s.arg(QCoreApplication::applicationVersion())}, nullptr);
+    page.follow(keys.lastUpdateCheck,
+        [&page, version] { version->setExplanation(lastCheck(page.prefs())); });
+
+    auto* skipped = tile.addRow({{}, u"You chose to skip this version."_s},
+        button(u"Offer it again"_s, [&page] { page.prefs().unset(keys.skipVersion); }));
+    page.follow(keys.skipVersion, [&page, skipped] {
+        const QString number = page.prefs().get(keys.skipVersion);
+        skipped->setLabel(u"Version %1"_s.arg(number));
+        skipped->setVisible(!number.isEmpty());
+    });
+    if (means.updates)
+        page.addBelow(means.updates());
+}
