@@ -12,7 +12,7 @@ Surfaces::Surfaces(
           rooms.sounds(), rooms.fun(), *platform.workspace, platform.words,
           [this] { tryAnimation(); }}
     , m_recent(rooms.actions(), platform.words.showInFolder)
-    , m_tray(state, prefs)
+    , m_tray(state, prefs, rooms.fun(), rooms.surroundings().themes)
     , m_panel(rooms.surroundings(),
           {rooms.surroundings().themes, prefs, state, rooms.fun(), rooms.history(), m_recent})
 {

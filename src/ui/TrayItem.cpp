@@ -3,6 +3,7 @@
 #include "ui/TrayItem.h"
 
 #include "app/AppState.h"
+#include "ui/TrayIcon.h"
 
 #include <QApplication>
 
@@ -23,15 +24,19 @@ void label(QAction& action, const KeyCombo& shortcut)
 
 } // namespace
 
-TrayItem::TrayItem(AppState& state, const Prefs& prefs)
+TrayItem::TrayItem(AppState& state, const Prefs& prefs, const Fun& fun, const Themes& themes)
     : m_state(state)
     , m_prefs(prefs)
-    , m_icon(QIcon(u":/pixmallow.svg"_s))
+    , m_themes(themes)
+    , m_label(prefs, fun)
 {
     m_menu.setToolTipsVisible(true);
     fillMenu();
     m_icon.setToolTip(u"Pixmallow"_s);
     m_icon.setContextMenu(&m_menu);
+    connect(&m_label, &MenuBarLabel::changed, this, &TrayItem::adoptLabel);
+    connect(&m_themes, &Themes::changed, this, &TrayItem::adoptLabel);
+    adoptLabel();
     connect(&m_icon, &QSystemTrayIcon::activated, this,
         [this](QSystemTrayIcon::ActivationReason reason) {
             if (reason == QSystemTrayIcon::Trigger)
@@ -62,6 +67,11 @@ void TrayItem::fillMenu()
     m_menu.addSeparator();
     m_menu.addAction(u"Settings…"_s, &m_state, &AppState::settingsRequested);
     m_menu.addAction(u"Quit Pixmallow"_s, qApp, &QCoreApplication::quit);
+}
+
+void TrayItem::adoptLabel()
+{
+    m_icon.setIcon(TrayIcon::of(m_label.text(), m_themes.current()));
 }
 
 std::optional<QPointF> TrayItem::position() const

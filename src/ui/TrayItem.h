@@ -3,6 +3,8 @@
 #pragma once
 
 #include "base/Prefs.h"
+#include "fun/MenuBarLabel.h"
+#include "widgets/Theme.h"
 
 #include <QMenu>
 #include <QSystemTrayIcon>
@@ -18,7 +20,7 @@ class TrayItem final : public QObject {
     Q_OBJECT
 
 public:
-    TrayItem(AppState& state, const Prefs& prefs);
+    TrayItem(AppState& state, const Prefs& prefs, const Fun& fun, const Themes& themes);
 
     /// The middle of the icon in points of the desktop, y down; none where the tray does not tell.
     std::optional<QPointF> position() const;
@@ -30,9 +32,12 @@ Q_SIGNALS:
 
 private:
     void fillMenu();
+    void adoptLabel();
 
     AppState& m_state;
     const Prefs& m_prefs;
     QMenu m_menu;
+    const Themes& m_themes;
+    MenuBarLabel m_label;
     QSystemTrayIcon m_icon;
 };

@@ -36,7 +36,10 @@ TEST(TrayItemTest, tellsTheShortcutsInSignsAndInWords)
     CaptureStages stages;
     stages.countDown = [](int) { return Pending<void>::answered({}); };
     AppState state(platform, prefs, hotkeys, stages);
-    const TrayItem tray(state, prefs);
+    Skins skins(prefs, *platform.appearance);
+    const Themes themes(skins, *platform.appearance);
+    const Fun fun({.data = folder.filePath(u"data"_s)}, prefs);
+    const TrayItem tray(state, prefs, fun, themes);
     EXPECT_EQ(shown(tray.menu()),
         QStringList({u"Capture window\t⌃⇧2 | Capture window, Ctrl+Shift+2"_s,
             u"Capture screen\t⌃⇧3 | Capture screen, Ctrl+Shift+3"_s,
