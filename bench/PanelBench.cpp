@@ -68,8 +68,8 @@ struct World {
 SettingsMeans settingsMeans(DesktopPlatform& platform, World& world)
 {
     return {world.rooms.surroundings().themes, world.prefs, world.state, world.hotkeys,
-        world.rooms.skins(), world.rooms.sounds(), world.rooms.fun(), *platform.workspace,
-        platform.words, [] {}};
+        world.rooms.skins(), world.rooms.sounds(), world.rooms.fun(), world.rooms.updater(),
+        *platform.workspace, platform.words, [] {}};
 }
 
 void tell(const Rounds& rounds, const QString& name, Limit limit)

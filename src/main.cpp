@@ -112,7 +112,6 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
 int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(u"pixmallow"_s);
-    QCoreApplication::setApplicationVersion(QStringLiteral(PIXMALLOW_VERSION));
     if (argc > 1 && std::strcmp(argv[1], "--text") == 0) {
         const QCoreApplication application(argc, argv);
         return runTextCommand(QCoreApplication::arguments().mid(2));

@@ -130,6 +130,12 @@ void Rooms::captureEnded()
     m_popUps.captureEnded();
 }
 
+void Rooms::showUpdate()
+{
+    if (const auto& found = m_updater.available())
+        m_updatePanel.show(*found);
+}
+
 void Rooms::welcome()
 {
     if (m_prefs.get(Prefs::keys.welcomed))

@@ -44,6 +44,7 @@ public:
     ShotActions actions(); ///< All that can be done with a capture.
     HistoryWindow& historyWindow() { return m_historyWindow; }
     Updater& updater() { return m_updater; }
+    void showUpdate(); ///< That was found, if any.
 
     /// What happens by itself keeps still while a capture is being taken.
     void captureBegins();

@@ -4,17 +4,20 @@
 
 #include "ui/settings/SampleCapture.h"
 
+using namespace Qt::StringLiterals;
+
 Surfaces::Surfaces(
     DesktopPlatform& platform, Prefs& prefs, Rooms& rooms, AppState& state, HotkeyCenter& hotkeys)
     : m_platform(platform)
     , m_rooms(rooms)
     , m_settingsMeans {rooms.surroundings().themes, prefs, state, hotkeys, rooms.skins(),
-          rooms.sounds(), rooms.fun(), *platform.workspace, platform.words,
+          rooms.sounds(), rooms.fun(), rooms.updater(), *platform.workspace, platform.words,
           [this] { tryAnimation(); }}
     , m_recent(rooms.actions(), platform.words.showInFolder)
     , m_tray(state, prefs, rooms.fun(), rooms.surroundings().themes)
     , m_panel(rooms.surroundings(),
-          {rooms.surroundings().themes, prefs, state, rooms.fun(), rooms.history(), m_recent})
+          {rooms.surroundings().themes, prefs, state, rooms.fun(), rooms.history(), m_recent,
+              [this] { return updateNotice(); }, [this] { m_rooms.showUpdate(); }})
 {
     connect(&m_tray, &TrayItem::clicked, this, [this] { m_panel.toggle(m_tray.position()); });
     connect(&state, &AppState::panelRequested, this, [this] { m_panel.open(m_tray.position()); });
@@ -27,6 +30,12 @@ void Surfaces::showSettings()
     if (!m_settings)
         m_settings = std::make_unique<SettingsWindow>(m_settingsMeans);
     m_settings->present();
+}
+
+QString Surfaces::updateNotice() const
+{
+    const auto& found = m_rooms.updater().available();
+    return found ? u"Update to %1"_s.arg(found->version) : QString();
 }
 
 /// Over the middle of the screen under the pointer, as if that had been captured.

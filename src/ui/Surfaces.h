@@ -17,6 +17,7 @@ public:
 
 private:
     void showSettings();
+    QString updateNotice() const; ///< Empty where there is none.
     void tryAnimation();
 
     DesktopPlatform& m_platform;

@@ -24,6 +24,11 @@ struct UiWorld final : QObject {
         , state(world.platform, world.prefs, hotkeys, stages())
         , history(world.folders, world.prefs)
         , recent({}, {})
+        , updater({.prefs = world.prefs,
+              .workspace = *world.platform.workspace,
+              .words = world.platform.words,
+              .downloads = world.folders.downloads,
+              .source = {{}, {}, {}, {}, {}, u"1.2"_s}})
     {
         state.registerHotkeys();
     }
@@ -45,7 +50,7 @@ struct UiWorld final : QObject {
 
     SettingsMeans settings()
     {
-        return {world.themes, world.prefs, state, hotkeys, world.skins, sounds, world.fun,
+        return {world.themes, world.prefs, state, hotkeys, world.skins, sounds, world.fun, updater,
             *world.platform.workspace, world.platform.words, [] {}};
     }
 
@@ -56,6 +61,7 @@ struct UiWorld final : QObject {
     AppState state;
     HistoryStore history;
     RecentActions recent;
+    Updater updater;
 };
 
 std::unique_ptr<QWidget> page(GalleryWorld& world, SettingsWindow::Page page)
@@ -84,8 +90,9 @@ std::unique_ptr<QWidget> panel(GalleryWorld& world)
         = [&](const HistoryItem& item) { return history.thumbnail(item).has_value(); };
     while (!std::ranges::all_of(history.items(), isLoaded) && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
-    auto view = std::make_unique<PanelView>(PanelView::Means {world.themes, world.prefs,
-        surroundings->state, world.fun, surroundings->history, surroundings->recent});
+    auto view = std::make_unique<PanelView>(
+        PanelView::Means {world.themes, world.prefs, surroundings->state, world.fun,
+            surroundings->history, surroundings->recent, [] { return u"Update to 1.3"_s; }, [] {}});
     surroundings->setParent(view.get());
     return view;
 }

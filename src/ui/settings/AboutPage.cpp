@@ -4,7 +4,6 @@
 
 #include "widgets/TextLabel.h"
 
-#include <QCoreApplication>
 #include <QIcon>
 #include <QVBoxLayout>
 
@@ -36,13 +35,13 @@ void SettingsPages::fillAbout(SettingsPage& page, const SettingsMeans& means)
     column->addWidget(icon);
     column->addWidget(line(means.themes, TextStyle::Title1, u"Pixmallow"_s, TextLabel::Role::Text));
     column->addWidget(line(means.themes, TextStyle::Body,
-        u"Version %1"_s.arg(QCoreApplication::applicationVersion()), TextLabel::Role::Secondary));
+        u"Version %1"_s.arg(means.updater.currentVersion()), TextLabel::Role::Secondary));
     page.addBelow(about);
 
     RowGroup& tile = page.addGroup();
     tile.addRow({u"Licence"_s, u"Free software under the MIT licence."_s}, nullptr);
     tile.addRow({u"Your captures stay with you"_s,
-                    u"Pixmallow sends none of them anywhere, and neither what you do with it."_s},
+                    u"Pixmallow sends neither them nor what you do with it anywhere."_s},
         nullptr);
     tile.addRow(
         {u"With thanks to"_s, u"Phosphor Icons, Fluent Emoji, Anton, Qt, Tesseract and ISA-L."_s},

@@ -10,6 +10,7 @@
 #include "platform/Workspace.h"
 #include "skins/Skins.h"
 #include "skins/Sounds.h"
+#include "update/Updater.h"
 #include "widgets/Theme.h"
 
 /// What the pages of the settings reach.
@@ -21,8 +22,8 @@ struct SettingsMeans {
     Skins& skins;
     Sounds& sounds;
     Fun& fun;
+    Updater& updater;
     Workspace& workspace;
     const PlatformWords& words;
     std::function<void()> tryAnimation; ///< Plays the capture animation, on nothing captured.
-    std::function<QWidget*()> updates {}; ///< What the page of updates shows besides; may be empty.
 };

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 #include <QPushButton>
 
@@ -27,10 +26,16 @@ void SettingsPages::fillUpdates(SettingsPage& page, const SettingsMeans& means)
 {
     RowGroup& tile = page.addGroup();
     page.addSwitch(keys.autoUpdate, {u"Check for updates automatically"_s});
-    auto* version
-        = tile.addRow({u"Pixmallow %1"_s.arg(QCoreApplication::applicationVersion())}, nullptr);
-    page.follow(keys.lastUpdateCheck,
-        [&page, version] { version->setExplanation(lastCheck(page.prefs())); });
+    Updater& updater = means.updater;
+    auto* check = button(u"Check Now"_s, [&updater] { updater.check(true); });
+    auto* version = tile.addRow({u"Pixmallow %1"_s.arg(updater.currentVersion())}, check);
+    const auto show = [&page, &updater, version, check] {
+        version->setExplanation(
+            updater.status().isEmpty() ? lastCheck(page.prefs()) : updater.status());
+        check->setEnabled(!updater.isChecking());
+    };
+    page.follow(keys.lastUpdateCheck, show);
+    QObject::connect(&updater, &Updater::changed, version, show);
 
     auto* skipped = tile.addRow({{}, u"You chose to skip this version."_s},
         button(u"Offer it again"_s, [&page] { page.prefs().unset(keys.skipVersion); }));
@@ -39,6 +44,4 @@ void SettingsPages::fillUpdates(SettingsPage& page, const SettingsMeans& means)
         skipped->setLabel(u"Version %1"_s.arg(number));
         skipped->setVisible(!number.isEmpty());
     });
-    if (means.updates)
-        page.addBelow(means.updates());
 }
