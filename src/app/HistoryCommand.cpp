@@ -13,6 +13,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct Options {
+    bool json = false;
+    std::optional<QString> search {};
+};
+
+Options optionsFrom(const QStringList& words)
+{
+    Options options;
+    for (qsizetype i = 0; i < words.size(); ++i)
+        if (words[i] == u"--search"_s)
+            options.search = words.value(++i);
+        else if (words[i] == u"--json"_s)
+            options.json = true;
+    return options;
+}
+
 QHash<QString, QByteArray> textsOf(const QList<HistoryItem>& items, const TextFiles& files)
 {
     QHash<QString, QByteArray> texts;
@@ -54,20 +70,19 @@ int runHistoryCommand(const QStringList& words)
     const TextFiles texts(folders.data);
     HistoryCatalogue catalogue(DayCalendar::ofUser());
     catalogue.setItems(*items);
-    const auto search = words.indexOf(u"--search"_s);
-    if (search >= 0) {
+    const Options options = optionsFrom(words);
+    if (options.search) {
         catalogue.addTexts(textsOf(*items, texts));
-        catalogue.setQuery(words.value(search + 1));
+        catalogue.setQuery(*options.search);
     }
     QJsonArray array;
     QString lines;
-    const bool json = words.indexOf(u"--json"_s) >= 0 && words.indexOf(u"--json"_s) != search + 1;
     for (const HistoryItem* item : catalogue.shown())
-        if (json)
+        if (options.json)
             array.append(toJson(*item, texts.read(item->id)));
         else
             lines += line(*item);
-    const auto printed = json ? print(QJsonValue(array)) : print(lines.toUtf8());
+    const auto printed = options.json ? print(QJsonValue(array)) : print(lines.toUtf8());
     if (!printed)
         complain(printed.error().message);
     return printed ? 0 : 2;
