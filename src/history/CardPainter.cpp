@@ -109,12 +109,15 @@ void CardPainter::paintFound(QPainter& painter, QRect box, const QString& found)
     draw(m_lineFont, m_theme.secondary, found.mid(at + m_wanted.size()));
 }
 
-void CardPainter::paintHeading(QPainter& painter, QRect box, const QString& title, int margin) const
+void CardPainter::paintHeading(
+    QPainter& painter, QRect box, const QString& title, int margin, Cards cards) const
 {
-    QColor veil = m_theme.window;
-    veil.setAlphaF(float(headingVeil));
     box.setHeight(box.height() - Space::tiny); // What is marked or lifted below keeps its edge.
-    painter.fillRect(box, veil);
+    if (cards == Cards::PassBelow) {
+        QColor veil = m_theme.window;
+        veil.setAlphaF(float(headingVeil));
+        painter.fillRect(box, veil);
+    }
     painter.setFont(m_headingFont);
     painter.setPen(m_theme.text);
     painter.drawText(box.adjusted(margin, 0, -margin, 0), Qt::AlignLeft | Qt::AlignVCenter,

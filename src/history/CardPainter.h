@@ -34,7 +34,9 @@ public:
     static QRect well(QRect box); ///< The part of a card that the picture is fitted into.
 
     void paint(QPainter& painter, const Card& card) const;
-    void paintHeading(QPainter& painter, QRect box, const QString& title, int margin) const;
+    enum class Cards { StayBelow, PassBelow }; ///< Of a heading that moves with them, or stays.
+    void paintHeading(
+        QPainter& painter, QRect box, const QString& title, int margin, Cards cards) const;
 
     /// Marks what is found; the rest is as it stands.
     void setWanted(const QString& wanted) { m_wanted = wanted; }

@@ -177,9 +177,12 @@ void HistoryGrid::paintEvent(QPaintEvent* event)
         if (seen(m_layout.card(index)).adjusted(-4, -4, 4, 4).intersects(event->rect()))
             paintCard(painter, cards, index);
     const auto [firstGroup, lastGroup] = m_layout.groupsWithin(top(), bottom);
-    for (int group = firstGroup; group < lastGroup; ++group)
-        cards.paintHeading(
-            painter, seen(m_layout.heading(group, top())), m_groups[group].title, Space::window);
+    for (int group = firstGroup; group < lastGroup; ++group) {
+        const QRect box = m_layout.heading(group, top());
+        const bool isAtHome = box.top() == m_layout.heading(group, 0).top();
+        cards.paintHeading(painter, seen(box), m_groups[group].title, Space::window,
+            isAtHome ? CardPainter::Cards::StayBelow : CardPainter::Cards::PassBelow);
+    }
 }
 
 void HistoryGrid::paintCard(QPainter& painter, const CardPainter& cards, int index)

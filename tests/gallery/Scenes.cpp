@@ -6,6 +6,7 @@
 #include "editor/keeping/ReopenView.h"
 #include "preview/PreviewView.h"
 #include "tests/gallery/ControlScenes.h"
+#include "tests/gallery/HistoryScenes.h"
 #include "tests/gallery/SettingsScenes.h"
 #include "update/UpdateView.h"
 #include "widgets/GlassButton.h"
@@ -140,6 +141,14 @@ const QList<Scene>& scenes()
             [](GalleryWorld& world) { return update(world, false); }},
         {u"update-loading"_s, Scene::Ground::None,
             [](GalleryWorld& world) { return update(world, true); }},
+        {u"history"_s, Scene::Ground::None,
+            [](GalleryWorld& world) { return HistoryScenes::history(world, 7, {}); }},
+        {u"history-search"_s, Scene::Ground::None,
+            [](GalleryWorld& world) { return HistoryScenes::history(world, 7, u"order"_s); }},
+        {u"history-empty"_s, Scene::Ground::None,
+            [](GalleryWorld& world) { return HistoryScenes::history(world, 0, {}); }},
+        {u"achievements"_s, Scene::Ground::None, HistoryScenes::achievements},
+        {u"pop-up"_s, Scene::Ground::Card, HistoryScenes::popUp},
         {u"countdown"_s, Scene::Ground::Card,
             [](GalleryWorld& world) { return std::make_unique<CountdownView>(world.themes, 3); }},
         {u"welcome"_s, Scene::Ground::None,
