@@ -45,8 +45,8 @@ public:
         const QByteArray& png = {});
 
     /// After an edit. Without a saved path the image becomes the entry's private copy; a file of
-    /// the user that the entry named stays as it is. Returns false where the entry is as before: the
-    /// id is unknown or the copy cannot be written.
+    /// the user that the entry named stays as it is. Returns false where the entry is as before:
+    /// the id is unknown or the copy cannot be written.
     bool update(const QString& id, const QImage& image, double scale, const QString& savedPath,
         const QByteArray& png = {});
 

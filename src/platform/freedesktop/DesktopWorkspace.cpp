@@ -169,8 +169,7 @@ bool DesktopWorkspace::startsAtLogin() const
 
 Result<void> DesktopWorkspace::setStartsAtLogin(bool starts)
 {
-    return Autostart::set(
-        Autostart::userFolder(), QCoreApplication::applicationFilePath(), starts);
+    return Autostart::set(Autostart::userFolder(), QCoreApplication::applicationFilePath(), starts);
 }
 
 void DesktopWorkspace::relaunch()
