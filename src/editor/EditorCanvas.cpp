@@ -5,6 +5,7 @@
 #include "editor/AnnotationKind.h"
 #include "editor/TextField.h"
 #include "editor/Tools.h"
+#include "widgets/CardFrame.h"
 
 #include <QGestureEvent>
 #include <QMouseEvent>
@@ -155,6 +156,7 @@ void EditorCanvas::paintEvent(QPaintEvent* event)
         painter.setClipRect(rect);
         m_picture.draw(painter, m_view, marks, isStill() ? Sharp : Fast);
     }
+    paintFrame(painter, picture, event->region());
     painter.setClipRegion(event->region());
     m_decorations.draw(painter, m_view, palette().color(QPalette::Highlight));
 }
@@ -198,6 +200,17 @@ void EditorCanvas::scrollContentsBy(int, int)
         viewport()->update();
     if (m_field)
         m_field->place(m_view);
+}
+
+/// What sets the picture off from its ground.
+void EditorCanvas::paintFrame(QPainter& painter, QRect picture, const QRegion& wanted) const
+{
+    const QRegion around = wanted - picture;
+    if (around.isEmpty())
+        return;
+    painter.setClipRegion(around);
+    CardFrame::paintShadow(painter, picture, 0, palette().color(QPalette::Shadow));
+    painter.fillRect(picture.adjusted(-1, -1, 1, 1), palette().color(QPalette::Mid));
 }
 
 void EditorCanvas::mousePressEvent(QMouseEvent* event)

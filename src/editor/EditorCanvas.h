@@ -15,7 +15,7 @@ class TextField;
 /// The view in which a screenshot is marked up. Shows a CanvasModel, enlarged or reduced, and hands
 /// mouse and keys on to it. The wheel scrolls, with Ctrl it magnifies, as pinching does; space or
 /// the middle button drag the picture along. The colours are those of the palette: Highlight for
-/// what is selected, Base around the picture.
+/// what is selected, Base around the picture, Mid and Shadow for its line and shadow there.
 class EditorCanvas final : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -63,6 +63,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void paintFrame(QPainter& painter, QRect picture, const QRegion& wanted) const;
     void press(QMouseEvent* event, CanvasModel::Click click);
     void refresh();
     void showTyping();

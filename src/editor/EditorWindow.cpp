@@ -72,6 +72,7 @@ EditorWindow::EditorWindow(
     m_toolbar->setTool(m_canvas->model().tool());
     m_toolbar->setSettings(m_canvas->model().settings());
     refresh();
+    showMagnification();
 }
 
 EditorWindow::~EditorWindow() = default;
@@ -170,6 +171,8 @@ void EditorWindow::adoptTheme()
     setPalette(theme.palette());
     QPalette palette = theme.palette();
     palette.setColor(QPalette::Base, theme.well);
+    palette.setColor(QPalette::Mid, theme.hairline);
+    palette.setColor(QPalette::Shadow, theme.shadow);
     m_canvas->setPalette(palette);
 }
 
@@ -236,7 +239,7 @@ void EditorWindow::zoom(double factor)
 void EditorWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (m_isFitted && isVisible())
+    if (m_isFitted)
         fit();
 }
 

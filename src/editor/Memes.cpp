@@ -12,8 +12,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double leastFontSize = 18; // Pixels of the picture.
-constexpr double fontsPerWidth = 8;
+constexpr double fontsPerWidth = 12;
 constexpr double marginsPerFont = 7;
+constexpr double gainWorthABreak = 1.4;
 
 Annotation lineOf(const QString& text, double fontSize)
 {
@@ -54,7 +55,7 @@ std::vector<Annotation> Memes::captions(const QString& top, const QString& botto
     const auto caption = [&](const QString& text) {
         Annotation whole = fitted(text, fontSize, picture.width() - 2 * margin);
         Annotation inTwo = fitted(broken(text), fontSize, picture.width() - 2 * margin);
-        Annotation& it = inTwo.fontSize > whole.fontSize ? inTwo : whole;
+        Annotation& it = inTwo.fontSize > gainWorthABreak * whole.fontSize ? inTwo : whole;
         it.a.setX(picture.width() / 2.);
         return it.copy();
     };

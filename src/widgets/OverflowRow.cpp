@@ -54,8 +54,7 @@ void OverflowRow::add(QWidget* control, Gap gap, int rank, Entry entry)
     if (!m_items.empty())
         setTabOrder(m_items.back().control, control);
     m_more->raise();
-    m_items.push_back(
-        {control, gap == Gap::Group ? Space::inner : Space::tiny, rank, std::move(entry)});
+    m_items.push_back({control, gap == Gap::Group ? Space::inner : 0, rank, std::move(entry)});
     updateGeometry();
 }
 
@@ -92,8 +91,7 @@ void OverflowRow::place()
     std::vector<OverflowRules::Control> controls;
     for (const Item& item : m_items)
         controls.push_back({widthOf(item), item.gap, item.rank});
-    const auto shown
-        = OverflowRules::shown(controls, width(), {m_more->sizeHint().width(), Space::tiny, 0});
+    const auto shown = OverflowRules::shown(controls, width(), {m_more->sizeHint().width(), 0, 0});
     const auto put = [this](QWidget& control, int x) {
         const QSize size = control.sizeHint();
         const QRect box(x, (height() - size.height()) / 2, size.width(), size.height());

@@ -16,7 +16,10 @@ class OverflowRow final : public QWidget {
 public:
     /// Adds to the menu what a control does, while that is hidden.
     using Entry = std::function<void(QMenu& menu)>;
-    enum class Gap { Related, Group }; ///< To the control before.
+    enum class Gap {
+        Related,
+        Group
+    }; ///< To the control before. Our buttons have room of their own.
 
     explicit OverflowRow(const Themes& themes, QWidget* parent = nullptr);
 
