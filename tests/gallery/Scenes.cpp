@@ -6,6 +6,7 @@
 #include "editor/keeping/ReopenView.h"
 #include "preview/PreviewView.h"
 #include "tests/gallery/ControlScenes.h"
+#include "tests/gallery/EditorScenes.h"
 #include "tests/gallery/HistoryScenes.h"
 #include "tests/gallery/SettingsScenes.h"
 #include "update/UpdateView.h"
@@ -149,6 +150,12 @@ const QList<Scene>& scenes()
             [](GalleryWorld& world) { return HistoryScenes::history(world, 0, {}); }},
         {u"achievements"_s, Scene::Ground::None, HistoryScenes::achievements},
         {u"pop-up"_s, Scene::Ground::Card, HistoryScenes::popUp},
+        {u"editor"_s, Scene::Ground::Window,
+            [](GalleryWorld& world) { return EditorScenes::window(world, 1200); }},
+        {u"editor-narrow"_s, Scene::Ground::Window,
+            [](GalleryWorld& world) { return EditorScenes::window(world, 760); }},
+        {u"stickers"_s, Scene::Ground::Card, EditorScenes::stickers},
+        {u"phrases"_s, Scene::Ground::Card, EditorScenes::phrases},
         {u"countdown"_s, Scene::Ground::Card,
             [](GalleryWorld& world) { return std::make_unique<CountdownView>(world.themes, 3); }},
         {u"welcome"_s, Scene::Ground::None,

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "bench/Rounds.h"
+#include "bench/ScreenContent.h"
+#include "editor/EditorCanvas.h"
+#include "editor/EditorWindow.h"
+#include "platform/fake/FakePlatform.h"
+#include "platform/fake/FakeSurfaceTraits.h"
+#include "widgets/ApplicationLook.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Folders foldersIn(const QString& home)
+{
+    Folders folders;
+    folders.configuration = home + u"/config"_s;
+    folders.data = home + u"/data"_s;
+    folders.cache = home + u"/cache"_s;
+    folders.pictures = home + u"/Pictures"_s;
+    return folders;
+}
+
+/// What editors need, with nothing of the user's in it.
+struct World {
+    QTemporaryDir home;
+    Folders folders = foldersIn(home.path());
+    FakePlatform platform;
+    FakeSurfaceTraits surfaces;
+    Prefs prefs {folders, Prefs::Watch::Nothing};
+    HistoryStore history {folders, prefs};
+    KeptEdits edits {folders, prefs, history};
+    Fun fun {folders, prefs};
+    Skins skins {prefs, *platform.appearance};
+    Themes themes {skins, *platform.appearance};
+    ApplicationLook look {{themes, surfaces}};
+    EditorMeans means {{themes, surfaces}, prefs, *platform.clipboard, history, edits, fun, {}, {}};
+};
+
+void measure(World& world, QSize size, double target, int count)
+{
+    const QImage image = drawScreen(ScreenContent::Desk, size);
+    std::unique_ptr<EditorWindow> window;
+    const auto open = [&] {
+        window = std::make_unique<EditorWindow>(world.means, FinishedCapture {{image, 1, {}, {}}});
+        window->open();
+        QApplication::processEvents();
+    };
+    const QString name = u"%1 × %2"_s.arg(size.width()).arg(size.height());
+    Rounds rounds;
+    rounds.add(u"open"_s, open);
+    rounds.add(u"close unchanged"_s, [&] {
+        window->close();
+        QApplication::processEvents();
+    });
+    rounds.run(count);
+    std::printf(
+        "%s: open to first paint %.1f ms (95 %% %.1f)   target %.0f%s; close unchanged %.1f ms\n",
+        qPrintable(name), rounds.medianCpu(u"open"_s), rounds.cpu95(u"open"_s), target,
+        rounds.medianCpu(u"open"_s) > target ? " MISSED" : "",
+        rounds.medianCpu(u"close unchanged"_s));
+}
+
+} // namespace
+
+// usage: EditorBench [ROUNDS]
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const int count = std::max(2, QApplication::arguments().value(1, u"20"_s).toInt());
+    World world;
+    world.prefs.registerDefaults();
+    measure(world, {3840, 2160}, 60, count);
+    measure(world, {5120, 2880}, 120, count);
+    return 0;
+}
