@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/CanvasModel.h"
 
+#include "base/ArrowKeys.h"
 #include "editor/Colors.h"
 #include "editor/Geometry.h"
 #include "editor/TextStyles.h"
@@ -23,22 +24,6 @@ using Making = AnnotationKind::Making;
 bool isTyped(const Annotation& it)
 {
     return infoOf(it.kind).kind->making() == Making::Typing;
-}
-
-QPointF direction(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
 }
 
 } // namespace
@@ -226,7 +211,7 @@ CanvasModel::KeyAnswer CanvasModel::key(
         m_document.deleteSelected();
         return KeyAnswer::Taken;
     }
-    if (const QPointF way = direction(key); selected && !way.isNull()) {
+    if (const QPointF way = directionOf(key); selected && !way.isNull()) {
         const QPointF by = way * (modifiers & Qt::ShiftModifier ? farNudge : nudge);
         m_document.editSelected([by](Annotation& it) { it.move(by.x(), by.y()); });
         return KeyAnswer::Taken;

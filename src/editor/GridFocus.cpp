@@ -2,33 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "editor/GridFocus.h"
 
+#include "base/ArrowKeys.h"
+
 #include <QWidget>
 
 #include <limits>
 
-namespace {
-
-QPoint direction(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
-}
-
-} // namespace
-
 bool GridFocus::move(QWidget& from, int key)
 {
-    const QPoint way = direction(key);
+    const QPoint way = directionOf(key);
     if (way.isNull())
         return false;
     constexpr int aside = 3; // What lies off the way is that much further.

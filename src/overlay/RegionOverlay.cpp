@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "overlay/RegionOverlay.h"
 
+#include "base/ArrowKeys.h"
+
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -29,21 +31,6 @@ std::optional<OverlayKey> meaningOf(int key)
         return OverlayKey::PreviousWindow;
     }
     return std::nullopt;
-}
-
-QPoint directionOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    }
-    return {};
 }
 
 } // namespace
