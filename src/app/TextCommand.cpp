@@ -3,37 +3,22 @@
 #include "app/TextCommand.h"
 
 #include "capture/OCR.h"
+#include "capture/ShotFile.h"
 #include "cli/Print.h"
 #include "platform/DesktopPlatform.h"
-
-#include <QImageReader>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Pixels per point. Captures tell theirs as dots of 72 per inch; what is below 140 of them may be
-/// anything.
-double scaleOf(const QImage& image)
-{
-    const double dots = image.dotsPerMeterX() * 0.0254;
-    return dots < 140 ? 1 : std::min(dots / 72, 4.0);
-}
-
 Result<OCR::Result> read(OCR& ocr, const QString& path)
 {
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QImage image = reader.read();
-    if (image.isNull())
-        return Error::failed(
-            u"'%1' cannot be read as a picture: %2."_s.arg(path, reader.errorString()));
-    auto result = ocr.recognize(image, scaleOf(image)).wait();
+    const auto shot = readShot(path);
+    if (!shot)
+        return shot.error();
+    auto result = ocr.recognize(shot->image, shot->scale).wait();
     if (result && result->text.isEmpty())
-        return Error::failed(u"No text found in '%1'."_s.arg(path));
+        return Error::failed(u"No text found in “%1”."_s.arg(path));
     return result;
 }
 

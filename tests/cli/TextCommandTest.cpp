@@ -79,8 +79,8 @@ TEST_F(TextCommandTest, saysWhichFilesHaveNoTextAndGoesOn)
     EXPECT_EQ(all.exitCode, 2);
     EXPECT_EQ(all.output, "==> " + letter.toUtf8() + " <==\nDear reader,\ngood night.\n");
     for (const auto& path : {broken, missing, empty})
-        EXPECT_TRUE(all.errors.contains("'" + path.toUtf8() + "'")) << all.errors.toStdString();
-    EXPECT_TRUE(all.errors.contains("No text found in '" + empty.toUtf8()));
+        EXPECT_TRUE(all.errors.contains("“" + path.toUtf8() + "”")) << all.errors.toStdString();
+    EXPECT_TRUE(all.errors.contains("No text found in “" + empty.toUtf8()));
 
     const auto json = run({u"--json"_s, u"--"_s, letter, broken});
     EXPECT_EQ(json.exitCode, 2);
@@ -91,5 +91,5 @@ TEST_F(TextCommandTest, saysWhichFilesHaveNoTextAndGoesOn)
     EXPECT_EQ(QJsonDocument::fromJson(lines[0]).object(), expected);
     const auto failed = QJsonDocument::fromJson(lines[1]).object();
     EXPECT_EQ(failed[u"file"_s], broken);
-    EXPECT_TRUE(failed[u"reason"_s].toString().contains(u"cannot be read as a picture"_s));
+    EXPECT_TRUE(failed[u"reason"_s].toString().contains(u"is no picture that can be read"_s));
 }
