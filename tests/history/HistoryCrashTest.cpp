@@ -1,27 +1,17 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "tests/KilledProcess.h"
 #include "tests/history/HistoryPlace.h"
 
 #include <gmock/gmock.h>
 
-#include <QThread>
-
-#include <array>
-#include <csignal>
-#include <poll.h>
 #include <random>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int limit = 20;
-
-/// Before the toolkit starts. GLib has a lock of its own that may be held by a thread when this
-/// process forks; the child's threads would wait for it for ever.
-const bool isWithoutGLib = qputenv("QT_NO_GLIB", "1");
 
 /// Adds until it is killed; writes each id that add() returned, as fixed a length as they have.
 [[noreturn]] void addForEver(const QString& root, int round, int report)
@@ -43,22 +33,8 @@ const bool isWithoutGLib = qputenv("QT_NO_GLIB", "1");
 /// The ids that a process reported which was killed some time after it reported the first one.
 QStringList idsOfKilled(const QString& root, int round, unsigned long milliseconds)
 {
-    std::array<int, 2> report {};
-    EXPECT_EQ(pipe(report.data()), 0);
-    const pid_t child = fork();
-    if (child == 0)
-        addForEver(root, round, report[1]);
-    close(report[1]);
-    pollfd first {report[0], POLLIN, 0};
-    EXPECT_EQ(poll(&first, 1, 20'000), 1) << "it adds nothing";
-    QThread::msleep(milliseconds);
-    kill(child, SIGKILL);
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status)) << "it ended by itself";
-    QFile file;
-    EXPECT_TRUE(file.open(report[0], QIODevice::ReadOnly, QFile::AutoCloseHandle));
-    const QByteArray text = file.readAll();
+    const QByteArray text = KilledProcess::reportOf(
+        [&](int report) { addForEver(root, round, report); }, milliseconds * 1000);
     QStringList ids;
     for (qsizetype at = 0; at + 36 <= text.size(); at += 36)
         ids.append(QString::fromLatin1(text.mid(at, 36)));

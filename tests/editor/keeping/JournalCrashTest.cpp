@@ -2,26 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "editor/keeping/KeptEdits.h"
 
+#include "tests/KilledProcess.h"
 #include "tests/editor/keeping/SampleEdits.h"
 #include "tests/history/HistoryPlace.h"
 
 #include <gtest/gtest.h>
 
-#include <QThread>
-
-#include <array>
-#include <csignal>
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Before the toolkit starts. GLib has a lock of its own that may be held by a thread when this
-/// process forks; the child's threads would wait for it for ever.
-const bool isWithoutGLib = qputenv("QT_NO_GLIB", "1");
 
 /// What the document of a seed is after so many changes; some of them crop it or undo.
 class Work final {
@@ -81,22 +70,9 @@ private:
 /// How many changes a process reported that was killed some time after its first.
 int changesOfKilled(const QString& root, unsigned seed, unsigned long microseconds)
 {
-    std::array<int, 2> report {};
-    EXPECT_EQ(pipe(report.data()), 0);
-    const pid_t child = fork();
-    if (child == 0)
-        workForEver(root, seed, report[1]);
-    close(report[1]);
-    pollfd first {report[0], POLLIN, 0};
-    EXPECT_EQ(poll(&first, 1, 20'000), 1) << "it changes nothing";
-    QThread::usleep(microseconds);
-    kill(child, SIGKILL);
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status)) << "it ended by itself";
-    QFile file;
-    EXPECT_TRUE(file.open(report[0], QIODevice::ReadOnly, QFile::AutoCloseHandle));
-    return int(file.readAll().size());
+    return int(
+        KilledProcess::reportOf([&](int report) { workForEver(root, seed, report); }, microseconds)
+            .size());
 }
 
 std::optional<KeptEdit> reopened(const QString& root)
