@@ -3,6 +3,7 @@
 #include "widgets/style/FieldStyle.h"
 
 #include "widgets/Icons.h"
+#include "widgets/style/MenuStyle.h"
 #include "widgets/style/StyleTools.h"
 
 #include <QPainter>
@@ -131,6 +132,9 @@ QRect FieldStyle::choicePart(const QStyleOptionComboBox& option, QStyle::SubCont
     case QStyle::SC_ComboBoxEditField:
         return QStyle::visualRect(option.direction, option.rect,
             option.rect.adjusted(option.editable ? padding - 2 : Space::inner, 1, -caretWidth, -1));
+    case QStyle::SC_ComboBoxListBoxPopup:
+        // So that the chosen text lies where it is read in the control.
+        return option.rect.adjusted(Space::inner - MenuStyle::textStart, 0, 0, 0);
     default:
         return option.rect;
     }

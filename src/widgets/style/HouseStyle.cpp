@@ -31,8 +31,10 @@ const T* as(const QStyleOption* option)
 QStyleOptionMenuItem row(const QStyleOptionMenuItem& option, const QWidget* widget)
 {
     QStyleOptionMenuItem row = option;
-    if (!qobject_cast<const QMenu*>(widget))
+    if (!qobject_cast<const QMenu*>(widget)) {
         row.rect.adjust(MenuStyle::margin, 0, -MenuStyle::margin, 0);
+        row.maxIconWidth = row.icon.isNull() ? 0 : row.maxIconWidth; // The toolkit always has room.
+    }
     return row;
 }
 
@@ -79,14 +81,10 @@ void HouseStyle::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     if (qobject_cast<QMenu*>(widget) || widget->inherits("QTipLabel")
         || widget->inherits("QComboBoxPrivateContainer")) {
-        widget->setAttribute(Qt::WA_TranslucentBackground);
+        widget->setAttribute(Qt::WA_TranslucentBackground, m_corners == MenuStyle::Corners::Round);
         widget->setWindowFlag(Qt::FramelessWindowHint);
         widget->setWindowFlag(
             Qt::NoDropShadowWindowHint); // It would follow the corners it has not.
-    } else if (widget->inherits("QComboBoxListView")) {
-        QPalette colours = widget->palette();
-        colours.setColor(QPalette::Base, Qt::transparent); // The card around it is painted already.
-        widget->setPalette(colours);
     } else if (widget->inherits("QToolButton") || widget->inherits("QScrollBar")) {
         widget->setAttribute(Qt::WA_Hover);
     }
@@ -170,8 +168,11 @@ bool HouseStyle::paintControl(ControlElement element, const QStyleOption& option
             FieldStyle::paintChoiceLabel(painter, *box, m_theme);
         return true;
     case CE_MenuItem:
-        if (const auto* item = as<QStyleOptionMenuItem>(&option))
+        if (const auto* item = as<QStyleOptionMenuItem>(&option)) {
+            if (!qobject_cast<const QMenu*>(widget)) // The toolkit has painted over the card.
+                MenuStyle::paintMiddle(painter, option.rect, m_theme);
             MenuStyle::paintItem(painter, row(*item, widget), m_theme);
+        }
         return true;
     case CE_ProgressBar:
         if (const auto* bar = as<QStyleOptionProgressBar>(&option))
@@ -212,8 +213,7 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 QRect HouseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
     SubControl part, const QWidget* widget) const
 {
-    if (const auto* choice = as<QStyleOptionComboBox>(option);
-        choice && control == CC_ComboBox && part != SC_ComboBoxListBoxPopup)
+    if (const auto* choice = as<QStyleOptionComboBox>(option); choice && control == CC_ComboBox)
         return FieldStyle::choicePart(*choice, part);
     if (const auto* number = as<QStyleOptionSpinBox>(option); number && control == CC_SpinBox)
         return FieldStyle::numberPart(*number, part);
@@ -242,7 +242,7 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option
         return ButtonStyle::toolSize(*tool, contents);
     if (const auto* item = as<QStyleOptionMenuItem>(option); item && type == CT_MenuItem) {
         const int margins = qobject_cast<const QMenu*>(widget) ? 0 : 2 * MenuStyle::margin;
-        return MenuStyle::itemSize(*item, contents) + QSize(margins, 0);
+        return MenuStyle::itemSize(row(*item, widget), contents) + QSize(margins, 0);
     }
     switch (type) {
     case CT_ComboBox:
@@ -330,6 +330,9 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     case SH_ComboBox_PopupFrameStyle:
         return QFrame::NoFrame;
     case SH_Menu_Mask:
+        if (!qobject_cast<const QMenu*>(widget))
+            return 0; // The toolkit paints no card for a list that is cut to its shape.
+        [[fallthrough]];
     case SH_ToolTip_Mask:
         if (auto* mask = qstyleoption_cast<QStyleHintReturnMask*>(returned);
             mask && option && m_corners == MenuStyle::Corners::Cut) {

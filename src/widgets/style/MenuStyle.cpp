@@ -35,6 +35,12 @@ void paintSeparator(QPainter& painter, const QStyleOptionMenuItem& option, const
     painter.fillRect(line, theme.hairline);
 }
 
+/// Opaque: what is written on it must be read, whatever lies behind.
+QColor groundOf(const Theme& theme)
+{
+    return Contrast::over(theme.card, theme.window);
+}
+
 /// Takes a part of the box away at its beginning.
 QRect taken(const QStyleOption& option, QRect& box, int width)
 {
@@ -50,14 +56,20 @@ void MenuStyle::paintCard(
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    // What is written on it must be read, whatever lies behind.
-    const QColor ground = Contrast::over(theme.card, theme.window);
+    const QColor ground = groundOf(theme);
     if (corners == Corners::Cut)
         painter.fillRect(box, ground);
     else
         StyleTools::paintBox(painter, box, radius, ground);
     StyleTools::paintBox(painter, box, radius, Qt::transparent, theme.hairline);
     painter.restore();
+}
+
+void MenuStyle::paintMiddle(QPainter& painter, QRect box, const Theme& theme)
+{
+    painter.fillRect(box, groundOf(theme));
+    painter.fillRect(QRect(box.left(), box.top(), 1, box.height()), theme.hairline);
+    painter.fillRect(QRect(box.right(), box.top(), 1, box.height()), theme.hairline);
 }
 
 void MenuStyle::paintItem(QPainter& painter, const QStyleOptionMenuItem& option, const Theme& theme)
