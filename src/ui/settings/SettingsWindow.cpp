@@ -74,6 +74,7 @@ void SettingsWindow::present()
     if (!isVisible()) {
         const auto screen = PanelPlacement::under(QCursor::pos(), PanelPlacement::screens());
         setGeometry(PanelPlacement::centred(screen, size()));
+        m_sidebar->setFocus();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
