@@ -38,7 +38,7 @@ HistoryGrid::HistoryGrid(const Themes& themes, HistoryStore& store, HistoryCatal
     m_lift.setDuration(int(Motion::hover.count()));
     connect(&m_lift, &QVariantAnimation::valueChanged, this, [this] {
         if (m_hovered != HistoryLayout::none)
-            viewport()->update(seen(m_layout.card(m_hovered)).adjusted(0, -Space::tiny, 0, 0));
+            viewport()->update(inked(m_hovered));
     });
     connect(&store, &HistoryStore::thumbnailLoaded, this, &HistoryGrid::arrived);
     connect(&themes, &Themes::changed, this, &HistoryGrid::adoptTheme);
@@ -69,6 +69,13 @@ void HistoryGrid::refresh()
     if (m_selection.current() != currentBefore)
         tellCurrent();
     viewport()->update();
+}
+
+/// With its ring, and lifted.
+QRect HistoryGrid::inked(int index) const
+{
+    constexpr int around = Space::tiny;
+    return seen(m_layout.card(index)).adjusted(-around, -around, around, around);
 }
 
 QStringList HistoryGrid::ids() const
@@ -110,6 +117,9 @@ QList<HistoryItem> HistoryGrid::selected() const
 
 void HistoryGrid::layOut()
 {
+    const std::pair fitted(viewport()->width(), devicePixelRatioF());
+    if (std::exchange(m_fitted, fitted) != fitted)
+        m_pictures.clear();
     const Theme& theme = m_themes.current();
     QList<int> sizes;
     for (const auto& group : m_groups)
@@ -174,7 +184,7 @@ void HistoryGrid::paintEvent(QPaintEvent* event)
     const int bottom = top() + viewport()->height();
     const auto [first, last] = m_layout.cardsWithin(top(), bottom);
     for (int index = first; index < last; ++index)
-        if (seen(m_layout.card(index)).adjusted(-4, -4, 4, 4).intersects(event->rect()))
+        if (inked(index).intersects(event->rect()))
             paintCard(painter, cards, index);
     const auto [firstGroup, lastGroup] = m_layout.groupsWithin(top(), bottom);
     for (int group = firstGroup; group < lastGroup; ++group) {
@@ -224,7 +234,7 @@ void HistoryGrid::arrived(const QString& id, const Thumbnail& thumbnail)
     const auto [first, last] = m_layout.cardsWithin(top(), top() + viewport()->height());
     for (int index = first; index < last; ++index)
         if (item(index).id == id)
-            viewport()->update(seen(m_layout.card(index)));
+            viewport()->update(inked(index));
 }
 
 void HistoryGrid::choose(int index, CardSelection::How how)
@@ -252,7 +262,7 @@ void HistoryGrid::hover(int index)
     const int before = std::exchange(m_hovered, index);
     for (const int changed : {before, index})
         if (changed >= 0 && changed < m_layout.count())
-            viewport()->update(seen(m_layout.card(changed)).adjusted(0, -Space::tiny, 0, 0));
+            viewport()->update(inked(changed));
     const bool isOver = index != HistoryLayout::none;
     viewport()->setCursor(isOver ? Qt::PointingHandCursor : Qt::ArrowCursor);
     m_lift.stop();

@@ -61,6 +61,7 @@ private:
     void adoptTheme();
     int top() const; ///< Of what is seen, in the content.
     QRect seen(QRect content) const; ///< In the viewport.
+    QRect inked(int index) const; ///< What a card is painted on, in the viewport.
     const HistoryItem& item(int index) const { return *m_catalogue.shown()[index]; }
     QStringList ids() const; ///< Of all cards, in their order.
     void paintCard(QPainter& painter, const CardPainter& cards, int index);
@@ -79,6 +80,7 @@ private:
     HistoryLayout m_layout;
     CardSelection m_selection;
     CardPictures m_pictures;
+    std::pair<int, double> m_fitted; ///< Width and scale that the pictures are made for.
     QString m_anchor; ///< A card that stays where it is; empty at the very top.
     int m_anchorTop = 0; ///< Where, in the viewport.
     bool m_isReturning = false; ///< To the anchor: it is not the user who scrolls.
