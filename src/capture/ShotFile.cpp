@@ -23,6 +23,14 @@ double scaleOf(const QImage& image)
     return ours ? nearest : 1;
 }
 
+/// Else the toolkit would only say that it cannot read the file.
+bool isTooLarge(QSize size)
+{
+    constexpr qint64 bytesPerPixel = 4, mebibyte = 1 << 20;
+    const qint64 most = QImageReader::allocationLimit() * mebibyte;
+    return most > 0 && qint64(size.width()) * size.height() * bytesPerPixel > most;
+}
+
 } // namespace
 
 Result<Shot> readShot(const QString& path)
@@ -37,6 +45,11 @@ Result<Shot> readShot(const QString& path)
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (isTooLarge(size))
+        return Error::failed(u"“%1” is too large to be opened: it has %2 × %3 pixels."_s.arg(path)
+                                 .arg(size.width())
+                                 .arg(size.height()));
     const QImage image = reader.read();
     if (image.isNull())
         return Error::failed(
