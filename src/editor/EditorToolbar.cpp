@@ -178,6 +178,7 @@ void EditorToolbar::addZoom()
     connect(zoom, &SegmentedControl::chosen, this,
         [this](int index) { m_commands[commands.at(std::size_t(index))].trigger(); });
     add(zoom, Gap::Group, Item::Zoom, [this](QMenu& menu) {
+        menu.addSeparator();
         for (const Command command : commands)
             menu.addAction(&m_commands[command]);
         menu.addSeparator();

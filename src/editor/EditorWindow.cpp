@@ -401,6 +401,9 @@ void EditorWindow::closeEvent(QCloseEvent* event)
     if (const auto kept = keepEdit(); !kept) {
         event->ignore();
         m_notice->tell(kept.error().message);
+        layout()->activate();
+        if (m_isFitted)
+            fit();
         return;
     }
     m_journal->close();
