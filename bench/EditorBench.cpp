@@ -43,14 +43,38 @@ struct World {
     EditorMeans means {{themes, surfaces}, prefs, *platform.clipboard, history, edits, fun, {}, {}};
 };
 
+/// Whether a widget was painted.
+class PaintWatch final : public QObject {
+public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+
+    void wait() const
+    {
+        while (!m_isPainted)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QApplication::processEvents();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        m_isPainted |= event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool m_isPainted = false;
+};
+
 void measure(World& world, QSize size, double target, int count)
 {
     const QImage image = drawScreen(ScreenContent::Desk, size);
     std::unique_ptr<EditorWindow> window;
     const auto open = [&] {
         window = std::make_unique<EditorWindow>(world.means, FinishedCapture {{image, 1, {}, {}}});
+        const PaintWatch canvas(*window->findChild<EditorCanvas*>()->viewport());
         window->open();
-        QApplication::processEvents();
+        canvas.wait();
     };
     const QString name = u"%1 × %2"_s.arg(size.width()).arg(size.height());
     Rounds rounds;

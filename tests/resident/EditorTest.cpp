@@ -213,9 +213,34 @@ TEST_F(EditorTest, saysWhichFilesItCannotOpen)
 {
     const QString damaged = desktop().home() + u"/damaged.png"_s;
     put(damaged, contentOf(file()).left(60));
-    const auto finished = pixmallow({u"edit"_s, u"missing.png"_s, damaged});
+    const QString huge = desktop().home() + u"/huge.ppm"_s;
+    put(huge, "P6 30000 30000 255\n");
+    const auto finished = pixmallow({u"edit"_s, u"missing.png"_s, damaged, huge});
     EXPECT_EQ(finished.exitCode, 2);
     EXPECT_TRUE(finished.errors.contains("missing.png") && finished.errors.contains("damaged.png"))
         << finished.errors.toStdString();
+    EXPECT_TRUE(finished.errors.contains("too large")) << finished.errors.toStdString();
     EXPECT_TRUE(isClosed());
+}
+
+TEST_F(EditorTest, whatCannotBeWrittenKeepsTheWindowOpen)
+{
+    const QString folder = desktop().home() + u"/taken away"_s;
+    QDir().mkpath(folder);
+    const QString path = folder + u"/a.png"_s;
+    EXPECT_TRUE(QFile::copy(file(), path));
+    edit(path);
+    desktop().key("r");
+    drag({100, 100}, {300, 200});
+    ASSERT_TRUE(waitFor([&] { return isSelected({100, 100, 200, 100}); }));
+    EXPECT_TRUE(QDir().rename(folder, folder + u" for now"_s));
+    desktop().key("ctrl+w");
+    const QPoint corner = at({});
+    EXPECT_TRUE(waitFor([&] { return !findPicture() || at({}) != corner; }))
+        << "nothing is said above the picture";
+    EXPECT_FALSE(isClosed());
+    EXPECT_TRUE(QDir().rename(folder + u" for now"_s, folder));
+    desktop().key("ctrl+w");
+    EXPECT_TRUE(waitUntilClosed());
+    EXPECT_FALSE(equal(QImage(path), saved())) << "the edit is lost";
 }
