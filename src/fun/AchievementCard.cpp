@@ -61,8 +61,20 @@ void AchievementCard::paintEvent(QPaintEvent* event)
     Emoji::paint(painter, m_achievement.emoji.toString(), circle, emojiSize,
         m_isUnlocked ? Emoji::Look::Full : Emoji::Look::Faded);
 
-    QRect line(Space::related, int(circle.bottom()) + Space::tiny, width() - 2 * Space::related,
-        theme().lineHeight(TextStyle::Headline));
+    paintText(painter, int(circle.bottom()) + Space::tiny);
+    if (hasFocus()) {
+        const double inset = Extent::focusRing / 2;
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(theme().accent, Extent::focusRing));
+        painter.drawRoundedRect(
+            QRectF(rect()).adjusted(inset, inset, -inset, -inset), Radius::tile, Radius::tile);
+    }
+}
+
+void AchievementCard::paintText(QPainter& painter, int top) const
+{
+    QRect line(
+        Space::related, top, width() - 2 * Space::related, theme().lineHeight(TextStyle::Headline));
     painter.setFont(theme().font(TextStyle::Headline));
     painter.setPen(m_isUnlocked ? theme().text : theme().secondary);
     painter.drawText(line, Qt::AlignCenter,
@@ -84,13 +96,6 @@ void AchievementCard::paintEvent(QPaintEvent* event)
         line.moveBottom(height() - Space::related);
         painter.drawText(line, Qt::AlignCenter,
             u"%1 / %2"_s.arg(locale.toString(m_value), locale.toString(m_achievement.goal)));
-    }
-    if (hasFocus()) {
-        const double inset = Extent::focusRing / 2;
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(theme().accent, Extent::focusRing));
-        painter.drawRoundedRect(
-            QRectF(rect()).adjusted(inset, inset, -inset, -inset), Radius::tile, Radius::tile);
     }
 }
 

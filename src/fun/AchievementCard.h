@@ -22,6 +22,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void paintText(QPainter& painter, int top) const;
     void paintRing(QPainter& painter, QRectF circle) const;
 
     const Achievement& m_achievement;

@@ -17,9 +17,8 @@ QList<StreakCalendar::Day> StreakCalendar::days(
         days.append({date, stats.days.value(FunRules::dayKey(date))});
         most = std::max(most, days.last().captures);
     }
-    for (Day& day : days) // Nobody counts that high in a day, but a file may say so.
-        if (day.captures > 0)
-            day.strength
-                = std::max(1, int(double(day.captures) / double(most) * strengths + 0.999));
+    for (Day& day : days)
+        if (day.captures > 0) // Rounded up; FunStats::most times four still is a number.
+            day.strength = int((day.captures * strengths + most - 1) / most);
     return days;
 }

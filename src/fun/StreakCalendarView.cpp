@@ -16,6 +16,7 @@ namespace {
 
 constexpr int side = 14; // Points of a dot.
 constexpr int step = side + Space::tiny;
+constexpr double todayRing = 1.5;
 constexpr std::array<double, StreakCalendar::strengths + 1> tones {0, 0.3, 0.52, 0.76, 1};
 
 } // namespace
@@ -59,6 +60,14 @@ void StreakCalendarView::paintEvent(QPaintEvent* event)
     Tile::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    paintTitle(painter);
+    paintMonths(painter);
+    for (int day = 0; day < m_days.size(); ++day)
+        paintDot(painter, day);
+}
+
+void StreakCalendarView::paintTitle(QPainter& painter) const
+{
     const QRect line(Space::group, Space::group, width() - 2 * Space::group,
         theme().lineHeight(TextStyle::Headline));
     painter.setFont(theme().font(TextStyle::Headline));
@@ -67,28 +76,36 @@ void StreakCalendarView::paintEvent(QPaintEvent* event)
     painter.setFont(theme().font(TextStyle::Callout));
     painter.setPen(theme().secondary);
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_detail);
+}
 
+/// Over the weeks that they begin in; the last weeks have no room for a name.
+void StreakCalendarView::paintMonths(QPainter& painter) const
+{
+    const int height = theme().lineHeight(TextStyle::Caption);
     painter.setFont(theme().font(TextStyle::Caption));
-    const int monthsTop = line.bottom() + Space::related;
-    for (int day = 0; day + 14 < m_days.size(); day += 7) // The last ones have no room for a name.
-        if (day == 0 ? m_days[0].date.day() < 15 : m_days[day].date.day() <= 7)
-            painter.drawText(QRectF(dot(day).left(), monthsTop, 3 * step,
-                                 theme().lineHeight(TextStyle::Caption)),
+    for (int day = 0; day + 14 < m_days.size(); day += 7) {
+        const QDate date = m_days[day].date;
+        if (date.day() <= (day == 0 ? 14 : 7))
+            painter.drawText(
+                QRectF(dot(day).left(), dotsTop() - Space::tiny - height, 3 * step, height),
                 Qt::AlignLeft | Qt::AlignVCenter,
-                m_locale.standaloneMonthName(m_days[day].date.month(), QLocale::ShortFormat));
-    for (int day = 0; day < m_days.size(); ++day) {
-        const int strength = m_days[day].strength;
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(strength == 0
-                ? theme().fill
-                : Contrast::mixed(theme().window, theme().accent, tones[std::size_t(strength)]));
-        painter.drawRoundedRect(dot(day), side / 3.0, side / 3.0);
-        if (day + 1 == m_days.size()) { // Today.
-            painter.setBrush(Qt::NoBrush);
-            painter.setPen(QPen(theme().text, 1.5));
-            painter.drawRoundedRect(dot(day).adjusted(-1, -1, 1, 1), side / 3.0, side / 3.0);
-        }
+                m_locale.standaloneMonthName(date.month(), QLocale::ShortFormat));
     }
+}
+
+void StreakCalendarView::paintDot(QPainter& painter, int day) const
+{
+    constexpr double round = side / 3.0;
+    const double tone = tones[std::size_t(m_days[day].strength)];
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(
+        tone == 0 ? theme().fill : Contrast::mixed(theme().window, theme().accent, tone));
+    painter.drawRoundedRect(dot(day), round, round);
+    if (day + 1 < m_days.size())
+        return;
+    painter.setBrush(Qt::NoBrush); // Today.
+    painter.setPen(QPen(theme().text, todayRing));
+    painter.drawRoundedRect(dot(day).adjusted(-1, -1, 1, 1), round, round);
 }
 
 QString StreakCalendarView::told(const StreakCalendar::Day& day) const

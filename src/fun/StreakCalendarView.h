@@ -24,6 +24,9 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void paintTitle(QPainter& painter) const;
+    void paintMonths(QPainter& painter) const;
+    void paintDot(QPainter& painter, int day) const;
     QRectF dot(int day) const; ///< In points of the widget.
     int dotsTop() const;
     QString told(const StreakCalendar::Day& day) const;

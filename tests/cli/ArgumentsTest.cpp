@@ -44,6 +44,11 @@ TEST(ArgumentsTest, understandsWhatTheResidentProgramIsAskedFor)
     EXPECT_EQ(std::get<PinRequest>(*parse(u"pin a.png -- -b.png"_s)).files,
         (QStringList {u"a.png"_s, u"-b.png"_s}));
     EXPECT_TRUE(std::holds_alternative<QuitRequest>(*parse(u"quit"_s)));
+    EXPECT_EQ(std::get<ShowRequest>(*parse(u"history"_s)).what, Control::Show::What::History);
+    EXPECT_EQ(std::get<ShowRequest>(*parse(u"gallery"_s)).what, Control::Show::What::Gallery);
+    const auto list = std::get<ListRequest>(*parse(u"list --search --json history --json"_s));
+    EXPECT_EQ(list.search, u"--json"_s);
+    EXPECT_TRUE(list.json && list.what == ListRequest::What::History);
     const auto text = std::get<TextRequest>(*parse(u"text a.png --json -- -b.png --json"_s));
     EXPECT_EQ(text.files, (QStringList {u"a.png"_s, u"-b.png"_s, u"--json"_s}));
     EXPECT_TRUE(text.json);
@@ -68,7 +73,8 @@ TEST(ArgumentsTest, refusesWhatItDoesNotUnderstandInOneLine)
             u"shot --screen 1 --screen 2"_s, u"shot --output= --json"_s, u"shot --output a.jpg"_s,
             u"shot --output a.JPEG"_s, u"shot --output - --json"_s, u"shot --shadow"_s,
             u"shot --colour"_s, u"text"_s, u"text --json"_s, u"text --wait a.png"_s, u"list"_s,
-            u"list doors"_s, u"list screens windows"_s, u"list screens --cursor"_s}) {
+            u"list doors"_s, u"list screens windows"_s, u"list screens --cursor"_s,
+            u"list screens --search a"_s, u"list history --search"_s, u"history now"_s}) {
         const auto request = parse(words);
         ASSERT_FALSE(request) << words.toStdString();
         EXPECT_FALSE(request.error().message.isEmpty()) << words.toStdString();
