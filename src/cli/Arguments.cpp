@@ -191,6 +191,18 @@ Result<Request> parseArguments(const QStringList& arguments)
     return Error::failed(u"Unknown command '%1'."_s.arg(first));
 }
 
+QList<CommandWords> commandWords()
+{
+    QList<CommandWords> all;
+    for (const auto& command : commands({})) {
+        QStringList options;
+        for (const auto& option : command.options)
+            options << option.names();
+        all << CommandWords {command.name, options};
+    }
+    return all;
+}
+
 std::optional<QRect> parseArea(const QString& text)
 {
     static const QRegularExpression pattern(u"^(-?\\d{1,5}),(-?\\d{1,5}),(\\d{1,5})x(\\d{1,5})$"_s);

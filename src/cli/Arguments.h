@@ -79,3 +79,10 @@ Result<Request> parseArguments(const QStringList& arguments);
 std::optional<QRect> parseArea(const QString& text);
 
 QString helpText();
+
+/// What can be typed, for whoever checks that documents and completions know all of it.
+struct CommandWords {
+    QString name; ///< Empty for the one without a name.
+    QStringList options; ///< Without dashes.
+};
+QList<CommandWords> commandWords();
