@@ -14,7 +14,7 @@ namespace {
 QString modulePath(const QString& name)
 {
     const QString folder = QCoreApplication::applicationDirPath();
-    for (const auto& place : {folder, folder + u"/../lib/pixmallow"_s})
+    for (const auto& place : {folder, folder + u"/" PIXMALLOW_MODULES ""_s})
         if (const QFileInfo file(place + u"/lib"_s + name + u".so"_s); file.isFile())
             return file.absoluteFilePath();
     return {};

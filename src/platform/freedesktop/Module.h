@@ -8,5 +8,5 @@
 
 /// Loads a part of the program that stays out of it until it is needed, because what it stands on
 /// takes long to load, and finds a function in it. The file is lib<name>.so beside the program, or
-/// in ../lib/pixmallow where it is installed. Modules stay loaded.
+/// in the folder of modules where it is installed. Modules stay loaded.
 Result<QFunctionPointer> moduleFunction(const QString& name, const char* function);
