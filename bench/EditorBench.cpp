@@ -4,12 +4,10 @@
 #include "bench/ScreenContent.h"
 #include "editor/EditorCanvas.h"
 #include "editor/EditorWindow.h"
-#include "platform/fake/FakePlatform.h"
-#include "platform/fake/FakeSurfaceTraits.h"
+#include "tests/editor/EditorWorld.h"
 #include "widgets/ApplicationLook.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -17,30 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Folders foldersIn(const QString& home)
-{
-    Folders folders;
-    folders.configuration = home + u"/config"_s;
-    folders.data = home + u"/data"_s;
-    folders.cache = home + u"/cache"_s;
-    folders.pictures = home + u"/Pictures"_s;
-    return folders;
-}
-
-/// What editors need, with nothing of the user's in it.
-struct World {
-    QTemporaryDir home;
-    Folders folders = foldersIn(home.path());
-    FakePlatform platform;
-    FakeSurfaceTraits surfaces;
-    Prefs prefs {folders, Prefs::Watch::Nothing};
-    HistoryStore history {folders, prefs};
-    KeptEdits edits {folders, prefs, history};
-    Fun fun {folders, prefs};
-    Skins skins {prefs, *platform.appearance};
-    Themes themes {skins, *platform.appearance};
+struct World : EditorWorld {
     ApplicationLook look {{themes, surfaces}};
-    EditorMeans means {{themes, surfaces}, prefs, *platform.clipboard, history, edits, fun, {}, {}};
 };
 
 /// Whether a widget was painted.
@@ -101,7 +77,6 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     const int count = std::max(2, QApplication::arguments().value(1, u"20"_s).toInt());
     World world;
-    world.prefs.registerDefaults();
     measure(world, {3840, 2160}, 60, count);
     measure(world, {5120, 2880}, 120, count);
     return 0;

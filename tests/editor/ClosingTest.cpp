@@ -2,12 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "capture/ShotFile.h"
 #include "editor/EditKeeper.h"
-#include "platform/fake/FakePlatform.h"
-#include "platform/fake/FakeSurfaceTraits.h"
 #include "tests/TestFiles.h"
-
-#include <QDir>
-#include <QTemporaryDir>
+#include "tests/editor/EditorWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -22,28 +18,8 @@ using ClosingRules::Situation;
 using enum ClosingRules::Plan::Write;
 using Entry = ClosingRules::Plan::Entry;
 
-QImage plain(QColor colour, QSize size = {40, 30})
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colour);
-    return image;
-}
-
-Folders foldersIn(const QString& home)
-{
-    Folders folders;
-    folders.configuration = home + u"/config"_s;
-    folders.data = home + u"/data"_s;
-    folders.cache = home + u"/cache"_s;
-    folders.pictures = home + u"/Pictures"_s;
-    return folders;
-}
-
-/// Real files and a real history in a folder of their own.
-class EditKeeperTest : public testing::Test {
+class EditKeeperTest : public testing::Test, protected EditorWorld {
 protected:
-    EditKeeperTest() { prefs.registerDefaults(); }
-
     Result<EditKeeper::Kept> keep(const Plan& plan, const QString& path, const QString& id = {})
     {
         return EditKeeper::keep(means, {{edited, 2, u"Terminal"_s, {}}, path, id}, plan);
@@ -56,18 +32,6 @@ protected:
         return at(name);
     }
 
-    const QTemporaryDir home;
-    const Folders folders = foldersIn(home.path());
-    FakePlatform platform;
-    FakeSurfaceTraits surfaces;
-    Prefs prefs {folders, Prefs::Watch::Nothing};
-    HistoryStore history {folders, prefs};
-    KeptEdits edits {folders, prefs, history};
-    Fun fun {folders, prefs};
-    Skins skins {prefs, *platform.appearance};
-    Themes themes {skins, *platform.appearance};
-    const EditorMeans means {
-        {themes, surfaces}, prefs, *platform.clipboard, history, edits, fun, {}, {}};
     const QImage edited = plain(Qt::blue, {50, 30});
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/gallery/Gallery.h"
 
+#include <QApplication>
 #include <QDir>
 
 #include <gtest/gtest.h>
@@ -14,6 +15,9 @@ namespace {
 
 /// Set to write the pictures anew, which then are to be looked at.
 constexpr char renewal[] = "PIXMALLOW_NEW_GOLDEN_IMAGES";
+
+/// Looked at with two pixels per point as well: those with the finest drawing.
+const QStringList denseScenes {u"editor"_s, u"stickers"_s};
 
 struct Dress {
     QString skin;
@@ -45,13 +49,16 @@ TEST(GalleryTest, looksAsItDidWhenLookedAt)
     constexpr double tolerance = 0.005;
     const QDir golden(QStringLiteral(GOLDEN_IMAGES));
     const QDir failed(QDir::current().filePath(u"gallery-failed"_s));
+    const bool isDense = qApp->devicePixelRatio() > 1;
     GalleryWorld world;
     for (const Dress& dress :
         {Dress {u"default"_s, false}, Dress {u"default"_s, true}, Dress {u"kawaii"_s, false}}) {
         world.wear(dress.skin, dress.dark);
         for (const Scene& scene : scenes()) {
-            const QString name = u"%1-%2-%3.png"_s.arg(
-                scene.name, dress.skin, dress.dark ? u"dark"_s : u"light"_s);
+            if (isDense && !denseScenes.contains(scene.name))
+                continue;
+            const QString name = u"%1-%2-%3%4.png"_s.arg(scene.name, dress.skin,
+                dress.dark ? u"dark"_s : u"light"_s, isDense ? u"@2x"_s : QString());
             const QImage image = rendered(scene, world).convertToFormat(QImage::Format_RGB32);
             if (qEnvironmentVariableIsSet(renewal)) {
                 ASSERT_TRUE(image.save(golden.filePath(name)));
