@@ -148,15 +148,16 @@ void EditorCanvas::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     painter.setClipRegion(event->region());
     const QRect picture = m_view.toView(QRectF({}, m_view.picture())).toAlignedRect();
+    const QRect inside = picture.adjusted(1, 1, -1, -1); // Its edges may cover half a pixel.
     const bool opaque = !document.base().hasAlphaChannel();
-    for (const QRect& rect : event->region() - (opaque ? QRegion(picture) : QRegion()))
+    for (const QRect& rect : event->region() - (opaque ? QRegion(inside) : QRegion()))
         painter.fillRect(rect, palette().base());
+    paintFrame(painter, picture, event->region() - inside);
     using enum CanvasPicture::Detail;
     for (const QRect& rect : event->region()) { // Clipped to several, the toolkit rounds otherwise.
         painter.setClipRect(rect);
         m_picture.draw(painter, m_view, marks, isStill() ? Sharp : Fast);
     }
-    paintFrame(painter, picture, event->region());
     painter.setClipRegion(event->region());
     m_decorations.draw(painter, m_view, palette().color(QPalette::Highlight));
 }
@@ -205,10 +206,9 @@ void EditorCanvas::scrollContentsBy(int, int)
 /// What sets the picture off from its ground.
 void EditorCanvas::paintFrame(QPainter& painter, QRect picture, const QRegion& wanted) const
 {
-    const QRegion around = wanted - picture;
-    if (around.isEmpty())
+    if (wanted.isEmpty())
         return;
-    painter.setClipRegion(around);
+    painter.setClipRegion(wanted);
     CardFrame::paintShadow(painter, picture, 0, palette().color(QPalette::Shadow));
     painter.fillRect(picture.adjusted(-1, -1, 1, 1), palette().color(QPalette::Mid));
 }
