@@ -59,8 +59,11 @@ void FxPanel::play()
 qint64 FxPanel::paintAt(double seconds)
 {
     const FxSprites sprites = m_scene->at(seconds);
-    if (!m_surfaces.blendsWindows())
+    if (!m_surfaces.blendsWindows()) {
         cutTo(sprites);
+        if (!m_fresh) // What is still shown looks as it did.
+            return 0;
+    }
     m_drawing.clear();
     for (const auto& sprite : sprites)
         m_drawing.add(sprite.box());
