@@ -20,7 +20,8 @@ protected:
     {
         Base::SetUp();
         if (!testing::Test::IsSkipped())
-            setPreferences(R"({"afterCapture":"none","captureAnimation":"none"})");
+            setPreferences(R"({"afterCapture":"none","captureAnimation":"none",)"
+                           R"("achievementToasts":false})");
     }
 
     void TearDown() override { pixmallow({QStringLiteral("quit")}); }
