@@ -4,6 +4,7 @@
 
 #include "ui/panel/PetRow.h"
 #include "ui/panel/RecentStrip.h"
+#include "widgets/Enlarged.h"
 
 #include <QCoreApplication>
 #include <QFrame>
@@ -127,7 +128,7 @@ void PanelView::refreshCaptures()
 
 QSize PanelView::sizeHint() const
 {
-    return {panelWidth, QWidget::sizeHint().height()};
+    return {enlarged(panelWidth, m_means.themes.current()), QWidget::sizeHint().height()};
 }
 
 void PanelView::keyPressEvent(QKeyEvent* event)

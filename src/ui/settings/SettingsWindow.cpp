@@ -3,6 +3,7 @@
 #include "ui/settings/SettingsWindow.h"
 
 #include "ui/settings/SettingsPages.h"
+#include "widgets/Enlarged.h"
 #include "widgets/PanelPlacement.h"
 #include "widgets/Sidebar.h"
 
@@ -46,7 +47,8 @@ SettingsWindow::SettingsWindow(SettingsMeans means)
     , m_made(pages.size(), nullptr)
 {
     setWindowTitle(u"Settings"_s);
-    resize(usual);
+    const Theme& theme = m_means.themes.current();
+    resize(enlarged(usual.width(), theme), enlarged(usual.height(), theme));
     setMinimumSize(smallest);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});

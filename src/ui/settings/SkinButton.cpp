@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize size(110, 78); // Points.
+constexpr QSize size(110, 63); // Points, without its name.
 constexpr int ringRoom = 4; // For the ring of the chosen one, and for the focus.
 constexpr int emojiSize = 26;
 constexpr double dot = 8; // In the skin's accent.
@@ -35,7 +35,7 @@ SkinButton::SkinButton(const Themes& themes, const Skin& skin)
 
 QSize SkinButton::sizeHint() const
 {
-    return ::size;
+    return {::size.width(), ::size.height() + m_themes.current().lineHeight(TextStyle::Caption)};
 }
 
 void SkinButton::paintEvent(QPaintEvent*)
@@ -60,14 +60,15 @@ void SkinButton::paintEvent(QPaintEvent*)
     emoji.setPixelSize(emojiSize);
     painter.setFont(emoji);
     painter.setPen(own.text);
-    painter.drawText(
-        box.adjusted(0, Space::tiny, 0, -box.height() / 3), Qt::AlignCenter, m_skin.emoji);
+    painter.drawText(QRectF(box.left(), box.top() + Space::tiny, box.width(), 44), Qt::AlignCenter,
+        m_skin.emoji);
 
     painter.setFont(own.font(TextStyle::Caption));
     const QFontMetricsF metrics(painter.font());
     const QString name = metrics.elidedText(m_skin.name, Qt::ElideRight, box.width() - 28);
     const double width = dot + Space::tiny + metrics.horizontalAdvance(name);
-    QRectF line(box.center().x() - width / 2, box.bottom() - 24, width + 1, 18);
+    const double height = own.lineHeight(TextStyle::Caption) + 3;
+    const QRectF line(box.center().x() - width / 2, box.bottom() - height - 6, width + 1, height);
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, name);
     painter.setPen(Qt::NoPen);
     painter.setBrush(own.accent);

@@ -12,7 +12,7 @@ SoundChoice::SoundChoice(Prefs& prefs, const Sounds& sounds)
     , m_sounds(sounds)
 {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(18);
+    setMinimumContentsLength(14);
     setMaxVisibleItems(16);
     list();
     connect(&m_prefs, &Prefs::changed, this, [this](const QString& key) {
