@@ -2,29 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "editor/EditorWindow.h"
 
-#include "base/Worker.h"
 #include "capture/Files.h"
 #include "editor/EditorCanvas.h"
+#include "editor/EditorFun.h"
 #include "editor/EditorLayout.h"
 #include "editor/EditorNotice.h"
 #include "editor/EditorToolbar.h"
-#include "editor/FaceCovers.h"
-#include "editor/FunMenu.h"
-#include "editor/MemeDialog.h"
-#include "editor/Memes.h"
-#include "editor/StickerPickerView.h"
 #include "widgets/PanelPlacement.h"
-#include "widgets/Popover.h"
 #include "widgets/TextLabel.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
-#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -53,10 +45,10 @@ EditorWindow::EditorWindow(
     , m_journal(resumed.journal ? std::move(resumed.journal) : means.edits.journal(capture))
     , m_isReopened(resumed.adopted == CanvasDocument::Adopted::Unsaved)
     , m_commands(means.surroundings.themes, *this)
-    , m_funMenu(new FunMenu(this))
-    , m_toolbar(new EditorToolbar(m_means.surroundings, m_commands, *m_funMenu))
-    , m_notice(new EditorNotice(means.surroundings.themes))
     , m_canvas(new EditorCanvas(capture.shot.image))
+    , m_fun(new EditorFun(m_means, *m_canvas, *this))
+    , m_toolbar(new EditorToolbar(m_means.surroundings, m_commands, m_fun->menu()))
+    , m_notice(new EditorNotice(means.surroundings.themes))
     , m_subtitle(newLabel(means.surroundings.themes, u"Status"_s))
     , m_magnification(newLabel(means.surroundings.themes, u"Magnification"_s))
 {
@@ -66,7 +58,8 @@ EditorWindow::EditorWindow(
     connectCommands();
     connectCanvas();
     connectToolbar();
-    connectFun();
+    connect(m_fun, &EditorFun::told, this, &EditorWindow::setStatus);
+    connect(&m_fun->menu(), &FunMenu::stickersChosen, this, &EditorWindow::showStickers);
     connect(&m_means.surroundings.themes, &Themes::changed, this, &EditorWindow::adoptTheme);
     adoptTheme();
     m_toolbar->setTool(m_canvas->model().tool());
@@ -110,7 +103,7 @@ void EditorWindow::connectCommands()
     on(Command::Save, &EditorWindow::saveAs);
     on(Command::Copy, &EditorWindow::copy);
     on(Command::Share, &EditorWindow::share);
-    on(Command::Sticker, &EditorWindow::showStickerPicker);
+    on(Command::Sticker, &EditorWindow::showStickers);
     on(Command::Close, &QWidget::close);
     m_commands[Command::Pin].setEnabled(bool(m_means.actions.pin));
     m_commands[Command::Save].setEnabled(bool(m_means.actions.saveAs));
@@ -158,13 +151,6 @@ void EditorWindow::connectToolbar()
     });
 }
 
-void EditorWindow::connectFun()
-{
-    connect(m_funMenu, &FunMenu::memeChosen, this, &EditorWindow::askForMeme);
-    connect(m_funMenu, &FunMenu::coverChosen, this, &EditorWindow::coverFaces);
-    connect(m_funMenu, &FunMenu::stickersChosen, this, &EditorWindow::showStickerPicker);
-}
-
 void EditorWindow::adoptTheme()
 {
     const Theme& theme = m_means.surroundings.themes.current();
@@ -189,6 +175,11 @@ void EditorWindow::open()
     activateWindow();
     m_canvas->setFocus();
     fit();
+}
+
+void EditorWindow::showStickers()
+{
+    m_fun->showStickers(m_toolbar->anchor(Command::Sticker));
 }
 
 bool EditorWindow::isEdited() const
@@ -296,61 +287,6 @@ void EditorWindow::share()
             if (window && (told || !told.error().isCancelled()))
                 window->setStatus(told ? *told : told.error().message);
         });
-}
-
-void EditorWindow::showStickerPicker()
-{
-    const auto pickedBy = [this](auto change) {
-        return [this, change](const QString& picked) {
-            if (QWidget* const popover = QApplication::activePopupWidget())
-                popover->close();
-            choose([&](CanvasModel& model) { change(model, picked); });
-        };
-    };
-    auto* picker = new StickerPickerView(m_means.surroundings.themes,
-        pickedBy([](CanvasModel& model, const QString& emoji) {
-            model.setSticker(emoji);
-            model.setTool(Tool::Sticker);
-        }),
-        pickedBy([](CanvasModel& model, const QString& phrase) { model.addTextSticker(phrase); }));
-    auto* popover = new Popover(m_means.surroundings, u"Stickers"_s, picker, this);
-    popover->openAt(m_toolbar->anchor(Command::Sticker));
-}
-
-void EditorWindow::askForMeme()
-{
-    auto* dialog = new MemeDialog(m_means.surroundings.themes, this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &MemeDialog::captioned, this, &EditorWindow::addMeme);
-    dialog->open();
-}
-
-void EditorWindow::addMeme(const QString& top, const QString& bottom)
-{
-    const auto lines = Memes::captions(top, bottom, m_canvas->model().document().base().size());
-    m_canvas->edit([&](CanvasModel& model) { model.document().add(lines); });
-    setStatus(u"Meme caption added — double-click a line to edit it"_s);
-    m_means.fun.record(FunDeed::MemeAdded);
-}
-
-void EditorWindow::coverFaces(const QString& emoji)
-{
-    setStatus(u"Looking for faces…"_s);
-    auto look = [faces = m_means.faces, image = flattened().image] { return faces->detect(image); };
-    const QPointer window(this);
-    runOnWorker(look).then([window, emoji](const Result<QList<QRectF>>& faces) {
-        if (!window)
-            return;
-        if (!faces)
-            return window->setStatus(u"Face detection failed"_s);
-        std::mt19937 random {std::random_device()()};
-        const auto covers = FaceCovers::on(*faces, emoji, random);
-        if (!covers.empty()) {
-            window->m_canvas->edit([&](CanvasModel& model) { model.document().add(covers); });
-            window->m_means.fun.record(FunDeed::FacesCovered, int(covers.size()));
-        }
-        window->setStatus(FaceCovers::told(faces->size()));
-    });
 }
 
 ClosingRules::Situation EditorWindow::situation() const

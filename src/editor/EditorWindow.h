@@ -6,9 +6,9 @@
 #include "editor/EditorCommands.h"
 
 class EditorCanvas;
+class EditorFun;
 class EditorNotice;
 class EditorToolbar;
-class FunMenu;
 class TextLabel;
 
 /// What an editor goes on with from an earlier time.
@@ -58,7 +58,6 @@ private:
     void connectCommands();
     void connectCanvas();
     void connectToolbar();
-    void connectFun();
     void adoptTheme();
 
     void refresh();
@@ -73,10 +72,7 @@ private:
     void copy();
     void saveAs();
     void share();
-    void showStickerPicker();
-    void askForMeme();
-    void addMeme(const QString& top, const QString& bottom);
-    void coverFaces(const QString& emoji);
+    void showStickers();
 
     Shot flattened();
     Shot exported();
@@ -92,10 +88,10 @@ private:
     const std::unique_ptr<EditJournal> m_journal;
     const bool m_isReopened; ///< With edits that are nowhere yet.
     EditorCommands m_commands;
-    FunMenu* m_funMenu;
+    EditorCanvas* m_canvas;
+    EditorFun* m_fun;
     EditorToolbar* m_toolbar;
     EditorNotice* m_notice;
-    EditorCanvas* m_canvas;
     TextLabel* m_subtitle;
     TextLabel* m_magnification;
     bool m_isCopied = false; ///< Since the last edit.

@@ -8,6 +8,7 @@
 #include "tests/TestFiles.h"
 #include "tests/editor/EditorWorld.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 
@@ -136,6 +137,32 @@ TEST_F(EditorWindowTest, coversFacesAndCountsThem)
     platform.fakeFaces().faces = Error::failed(u"No module."_s);
     Q_EMIT funMenu().coverChosen({});
     EXPECT_EQ(nextStatus(u"Looking for faces…"_s), u"Face detection failed"_s);
+}
+
+TEST_F(EditorWindowTest, picksStickersAndPhrases)
+{
+    const auto pick = [&](const QString& name) {
+        Q_EMIT funMenu().stickersChosen();
+        QWidget* const picker = QApplication::activePopupWidget();
+        ASSERT_TRUE(picker);
+        for (auto* button : picker->findChildren<QAbstractButton*>())
+            if (button->accessibleName() == name)
+                button->click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(QApplication::activePopupWidget()) << "still open";
+    };
+    pick(u"🐐"_s);
+    EXPECT_EQ(canvas().model().tool(), Tool::Sticker);
+    EXPECT_EQ(canvas().model().settings().stickerEmoji, u"🐐"_s);
+    EXPECT_EQ(marks(), 0U);
+    Annotation sticker(Tool::Sticker, Qt::white, 4);
+    sticker.b = {60, 60};
+    canvas().edit([&](CanvasModel& model) { model.document().commit(sticker); });
+    pick(u"🔥"_s); // Changes the one that is selected.
+    EXPECT_EQ(canvas().model().document().annotations()[0]->emoji, u"🔥"_s);
+    pick(u"no cap"_s);
+    EXPECT_EQ(canvas().model().document().annotations()[1]->text, u"no cap"_s);
+    EXPECT_EQ(fun.stats().stickers, 1) << "a phrase counts as well";
 }
 
 TEST_F(EditorWindowTest, captionsMemes)
