@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "app/TextProcess.h"
 #include "bench/Rounds.h"
 #include "bench/SampleText.h"
 #include "bench/ScreenContent.h"
 #include "capture/Files.h"
-#include "capture/OCR.h"
 #include "history/HistoryGrid.h"
 #include "history/HistoryIndex.h"
 #include "history/HistoryWindow.h"
 #include "history/TextIndex.h"
-#include "platform/DesktopPlatform.h"
 #include "platform/fake/FakePlatform.h"
 
 #include <QApplication>
@@ -183,21 +182,13 @@ void measureKeys(HistoryView& view)
     print("a keystroke and its picture, CPU ms, worst", keys.back(), keyLimit);
 }
 
-/// Until the other threads of this process rest.
-void rest()
-{
-    for (double before = -1, now = 0; now - before > 1; settle(20)) {
-        before = now;
-        now = milliseconds(CLOCK_PROCESS_CPUTIME_ID) - milliseconds(CLOCK_THREAD_CPUTIME_ID);
-    }
-}
-
 /// What takes a capture's time, alone and while a large one is being read for the history. Nothing
 /// gives way here, where a real capture has the reader give up before it begins.
-void measureDelay(int rounds)
+void measureDelay(const QString& root, int rounds)
 {
-    OCR reader(makeTextRecognizer(), OCR::usualPause, QThread::IdlePriority);
-    const QImage page = drawScreen(ScreenContent::Editor, {3840, 2160});
+    TextProcess reader(QCoreApplication::applicationDirPath() + u"/pixmallow-desktop"_s);
+    const QString page = root + u"/page.png"_s;
+    drawScreen(ScreenContent::Editor, {3840, 2160}).save(page);
     const QImage captured = drawScreen(ScreenContent::Desk, {3840, 2160});
     const auto encode = [&captured]() -> Rounds::Sample {
         const double before = milliseconds(CLOCK_MONOTONIC);
@@ -208,11 +199,10 @@ void measureDelay(int rounds)
     Rounds measured;
     measured.addMeasured(alone, encode);
     measured.addMeasured(reading, [&] {
-        std::ignore = reader.recognize(page, 2);
-        settle(200);
+        std::ignore = reader.read(page);
+        settle(300);
         const auto sample = encode();
-        reader.cancel();
-        rest();
+        reader.giveUp();
         return sample;
     });
     measured.run(rounds);
@@ -232,7 +222,7 @@ int main(int argc, char** argv)
     const QTemporaryDir root(u"/dev/shm/pixmallow-bench-XXXXXX"_s);
     fill(root.path(), drawScreen(ScreenContent::Desk, {1920, 1080}));
     Browser browser(root.path());
-    measureDelay(3 * rounds);
+    measureDelay(root.path(), 3 * rounds);
     measurePaint(browser, rounds);
 
     const double before = heapMebibytes();

@@ -34,10 +34,10 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     , m_permission({m_themes, *platform.capture, *platform.workspace, platform.words,
           [this] { return regionShortcut(); }, &QSystemTrayIcon::isSystemTrayAvailable})
     , m_ocr(platform.textRecognizer)
-    , m_idleReader(makeTextRecognizer(), OCR::usualPause, QThread::IdlePriority)
     , m_texts(folders)
-    , m_textIndexer({m_history, m_texts, prefs, m_idleReader,
-          [this] { return m_platform.power->isPlugged(); }})
+    , m_textIndexer({m_history, m_texts, prefs,
+          [this](const HistoryItem& item) { return m_idleReader.read(item.path); },
+          [this] { m_idleReader.giveUp(); }, [this] { return m_platform.power->isPlugged(); }})
     , m_historyWindow(
           {m_themes, prefs, m_history, *platform.clipboard, *platform.workspace, platform.words,
               actions(), [this](const ToastMessage& message) { m_toast.show(message); }},

@@ -4,6 +4,7 @@
 
 #include "app/CaptureStages.h"
 #include "app/ShotOperations.h"
+#include "app/TextProcess.h"
 #include "base/CaptureReport.h"
 #include "capture/Countdown.h"
 #include "capture/OCR.h"
@@ -91,7 +92,7 @@ private:
     Countdown m_countdown {m_surroundings};
     PermissionWindow m_permission;
     OCR m_ocr;
-    OCR m_idleReader;
+    TextProcess m_idleReader {QCoreApplication::applicationFilePath()};
     TextIndex m_texts;
     TextIndexer m_textIndexer;
     HistoryWindow m_historyWindow;

@@ -17,20 +17,27 @@ Result<OCR::Result> read(OCR& ocr, const QString& path)
     if (!shot)
         return shot.error();
     auto result = ocr.recognize(shot->image, shot->scale).wait();
-    if (result && result->text.isEmpty())
-        return Error::failed(u"No text found in “%1”."_s.arg(path));
     return result;
 }
 
-Result<void> printJson(const QString& path, const Result<OCR::Result>& result)
+/// Why there is no text; empty where there is some.
+QString complaintOf(const QString& path, const Result<OCR::Result>& result)
+{
+    if (!result)
+        return result.error().message;
+    return result->text.isEmpty() ? u"No text found in “%1”."_s.arg(path) : QString();
+}
+
+Result<void> printJson(
+    const QString& path, const Result<OCR::Result>& result, const QString& complaint)
 {
     QJsonObject object {{u"file"_s, path}};
     if (result) {
         object.insert(u"text"_s, result->text);
         object.insert(u"lines"_s, result->lines);
-    } else {
-        object.insert(u"reason"_s, result.error().message);
     }
+    if (!complaint.isEmpty())
+        object.insert(u"reason"_s, complaint);
     return print(QJsonValue(object));
 }
 
@@ -50,18 +57,19 @@ int runTextCommand(QStringList words)
     bool failed = words.isEmpty();
     for (const auto& path : words) {
         const auto result = read(ocr, path);
-        if (!result)
-            complain(result.error().message);
+        const QString complaint = complaintOf(path, result);
+        if (!complaint.isEmpty())
+            complain(complaint);
         Result<void> printed;
         if (json)
-            printed = printJson(path, result);
-        else if (result)
+            printed = printJson(path, result, complaint);
+        else if (complaint.isEmpty())
             printed = print((
                 (words.size() > 1 ? u"==> %1 <==\n"_s.arg(path) : QString()) + result->text + u'\n')
                                 .toUtf8());
         if (!printed)
             complain(printed.error().message);
-        failed = failed || !result || !printed;
+        failed = failed || !complaint.isEmpty() || !printed;
     }
     return failed ? 2 : 0;
 }

@@ -44,13 +44,11 @@ struct OCR::Job {
     Pending<Result>::Answer answer;
 };
 
-OCR::OCR(std::shared_ptr<TextRecognizer> recognizer, std::chrono::milliseconds keptReady,
-    QThread::Priority priority)
+OCR::OCR(std::shared_ptr<TextRecognizer> recognizer, std::chrono::milliseconds keptReady)
     : m_recognizer(std::move(recognizer))
     , m_thread(std::make_unique<QThreadPool>())
 {
     m_thread->setMaxThreadCount(1);
-    m_thread->setThreadPriority(priority);
     m_pause.setSingleShot(true);
     m_pause.setInterval(keptReady);
     QObject::connect(&m_pause, &QTimer::timeout,
@@ -69,19 +67,13 @@ OCR::~OCR()
 
 Pending<OCR::Result> OCR::recognize(const QImage& image, double scale)
 {
-    return recognize([image] { return image; }, scale);
-}
-
-Pending<OCR::Result> OCR::recognize(std::function<QImage()> picture, double scale)
-{
     auto [pending, answer] = Pending<Result>::ask();
     auto job = std::make_shared<Job>();
     job->answer = std::move(answer);
     std::erase_if(m_jobs, [](const auto& each) { return each.expired(); });
     m_jobs.push_back(job);
     m_pause.start();
-    m_thread->start([job, picture = std::move(picture), scale, recognizer = m_recognizer] {
-        const QImage image = job->cancelled ? QImage() : picture();
+    m_thread->start([job, image, scale, recognizer = m_recognizer] {
         auto read = recognizer->recognise(image, scale, job->cancelled);
         if (job->cancelled) // It was told so already, by a program that may be ending.
             return;

@@ -9,7 +9,6 @@
 #include <QTimer>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 
 /// Reads the text of pictures on a thread of its own, one picture after the other. The recogniser
@@ -24,10 +23,8 @@ public:
     /// How long the next picture is likely to follow.
     static constexpr std::chrono::milliseconds usualPause = std::chrono::minutes(1);
 
-    /// @param priority Idle leaves the processor to whatever else wants it, in any program.
     explicit OCR(std::shared_ptr<TextRecognizer> recognizer,
-        std::chrono::milliseconds keptReady = usualPause,
-        QThread::Priority priority = QThread::InheritPriority);
+        std::chrono::milliseconds keptReady = usualPause);
     /// Waits for nobody, not even for a recogniser that does not let itself be cancelled soon.
     ~OCR();
 
@@ -35,9 +32,6 @@ public:
     /// recogniser's sentence.
     /// @param scale pixels per point.
     Pending<Result> recognize(const QImage& image, double scale = 1);
-
-    /// The same of a picture that is made on the thread that reads it.
-    Pending<Result> recognize(std::function<QImage()> picture, double scale);
 
     /// Whoever waits hears Cancelled at once.
     void cancel();

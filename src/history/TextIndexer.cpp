@@ -47,7 +47,7 @@ void TextIndexer::captureBegins()
 void TextIndexer::giveUp()
 {
     m_isWanted = false;
-    m_means.reader.cancel();
+    m_means.giveUp();
 }
 
 void TextIndexer::captureEnded()
@@ -90,17 +90,15 @@ void TextIndexer::read(const HistoryItem& item)
 {
     m_reading = item.id;
     m_isWanted = true;
-    const auto picture = [path = item.path] { return decoded(path); };
-    m_means.reader.recognize(picture, item.scale)
-        .then([this, id = item.id, path = item.path](const Result<OCR::Result>& recognised) {
-            m_reading.clear();
-            // What lies on a disk that is not there now may be read another time.
-            const bool isRead
-                = recognised && !(recognised->text.isEmpty() && !QFileInfo::exists(path));
-            if (isRead && m_isWanted)
-                m_means.index.put(id, recognised->text);
-            else if (m_isWanted)
-                m_unreadable.insert(id);
-            later(breath);
-        });
+    m_means.read(item).then([this, id = item.id, path = item.path](
+                                const Result<OCR::Result>& recognised) {
+        m_reading.clear();
+        // What lies on a disk that is not there now may be read another time.
+        const bool isRead = recognised && !(recognised->text.isEmpty() && !QFileInfo::exists(path));
+        if (isRead && m_isWanted)
+            m_means.index.put(id, recognised->text);
+        else if (m_isWanted)
+            m_unreadable.insert(id);
+        later(breath);
+    });
 }

@@ -19,7 +19,8 @@ public:
         HistoryStore& store;
         TextIndex& index;
         const Prefs& prefs;
-        OCR& reader; ///< Nobody else's, of idle priority.
+        std::function<Pending<OCR::Result>(HistoryItem)> read; ///< In idle time.
+        std::function<void()> giveUp; ///< What is being read: whoever waits hears Cancelled.
         std::function<bool()> hasPower; ///< False where it comes from a battery.
         CallLater wait = callLater;
     };

@@ -21,9 +21,10 @@ protected:
         end();
         store();
         index = std::make_unique<TextIndex>(folders());
-        ocr = std::make_unique<OCR>(recognizer, 1h, QThread::IdlePriority);
-        indexer = std::make_unique<TextIndexer>(TextIndexer::Means {
-            store(), *index, prefs(), *ocr, [this] { return isPlugged; }, time.callLater()});
+        ocr = std::make_unique<OCR>(recognizer);
+        indexer = std::make_unique<TextIndexer>(TextIndexer::Means {store(), *index, prefs(),
+            [this](const HistoryItem& item) { return ocr->recognize(decoded(item.path)); },
+            [this] { ocr->cancel(); }, [this] { return isPlugged; }, time.callLater()});
         EXPECT_TRUE(comesTrue([this] { return index->isReady(); }));
     }
     void end()
