@@ -97,7 +97,7 @@ void PanelView::refresh()
     refreshCaptures();
     const AppState& state = m_means.state;
     m_editLast->setVisible(state.hasEditor());
-    m_editLast->setEnabled(state.last().has_value());
+    m_editLast->setEnabled(state.last() || !m_means.history.items().isEmpty());
     m_history->setVisible(state.hasHistory());
     m_gallery->setVisible(state.hasGallery());
     const QString update = m_means.updateNotice ? m_means.updateNotice() : QString();
