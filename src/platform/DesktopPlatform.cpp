@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/DesktopPlatform.h"
 
+#include "platform/Diagnosis.h"
 #include "platform/freedesktop/DesktopAppearance.h"
 #include "platform/freedesktop/DesktopWords.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
@@ -12,6 +13,7 @@
 #include "platform/freedesktop/ToolkitClipboard.h"
 #include "platform/x11/OwnWindowMarker.h"
 #include "platform/x11/X11ActiveApplication.h"
+#include "platform/x11/X11Diagnosis.h"
 #include "platform/x11/X11Hotkeys.h"
 #include "platform/x11/X11SurfaceTraits.h"
 
@@ -52,4 +54,9 @@ Result<DesktopPlatform> makeDesktopPlatform()
 std::shared_ptr<TextRecognizer> makeTextRecognizer()
 {
     return std::make_shared<ModuleTextRecognizer>(QLocale::system().uiLanguages());
+}
+
+std::unique_ptr<Diagnosis> makeDiagnosis()
+{
+    return std::make_unique<X11Diagnosis>(QLocale::system().uiLanguages());
 }

@@ -93,6 +93,8 @@ TEST(TextRulesTest, readsEnglishAndWhatTheUserSpeaksAndKeepsFewOthers)
         EXPECT_EQ(choice.usual, usual) << spoken.join(u' ').toStdString();
         EXPECT_EQ(choice.others, others) << spoken.join(u' ').toStdString();
     }
+    EXPECT_EQ(Languages::notInstalled({u"de-AT"_s, u"sr-Latn"_s}, {u"eng"_s, u"srp"_s}),
+        (QStringList {u"deu"_s, u"srp_latn"_s}));
     EXPECT_TRUE(Languages::missing({u"zh-Hant"_s})
                     .contains(u"tesseract-ocr-eng or tesseract-ocr-chi-tra"_s));
 }

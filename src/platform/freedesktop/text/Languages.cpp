@@ -67,6 +67,13 @@ Languages::Choice Languages::choose(const QStringList& spoken, const QStringList
     return choice;
 }
 
+QStringList Languages::notInstalled(const QStringList& spoken, const QStringList& installed)
+{
+    auto models = modelsOf(spoken);
+    models.removeIf([&](const QString& model) { return installed.contains(model); });
+    return models;
+}
+
 QString Languages::missing(const QStringList& spoken)
 {
     QStringList packages;

@@ -17,6 +17,9 @@ struct Choice {
 /// @param spoken languages of the user, best first: "de-AT", "zh-Hans-CN".
 Choice choose(const QStringList& spoken, const QStringList& installed);
 
+/// English and what the user speaks, where there is no model for it.
+QStringList notInstalled(const QStringList& spoken, const QStringList& installed);
+
 /// What to install, as a sentence for a user who has no model at all.
 QString missing(const QStringList& spoken);
 

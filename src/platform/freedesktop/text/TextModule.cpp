@@ -14,4 +14,13 @@ extern "C" Q_DECL_EXPORT TextRecognizer* pixmallowMakeTextRecognizer(
     return new TesseractRecognizer(languages);
 }
 
+extern "C" Q_DECL_EXPORT void pixmallowFindTextLanguages(
+    const QStringList& languages, TextLanguages& found)
+{
+    const auto installed = TesseractEngine::installed();
+    const auto choice = Languages::choose(languages, installed);
+    found = {choice.usual + choice.others, Languages::notInstalled(languages, installed)};
+}
+
+static_assert(std::is_same_v<decltype(&pixmallowFindTextLanguages), TextModule::FindLanguages>);
 static_assert(std::is_same_v<decltype(&pixmallowMakeTextRecognizer), TextModule::Make>);
