@@ -99,7 +99,8 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
                 [&rooms](const FinishedCapture& picture) { rooms.pins().show(picture.shot); });
         },
         [&rooms](const QStringList& paths) { return rooms.editFiles(paths); },
-        [&state](Control::Show::What what) { state.show(what); }});
+        [&state](Control::Show::What what) { state.show(what); },
+        [&state] { return state.refusedHotkeys(); }});
     const int code = QApplication::exec();
     rooms.cancelQuestions();
     finishCapture(state);

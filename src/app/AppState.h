@@ -35,8 +35,8 @@ public:
     /// The shortcut of a kind; none where the user has cleared it.
     std::optional<KeyCombo> hotkey(CaptureKind kind) const;
     QString hotkeyLabel(CaptureKind kind) const; ///< As menus show it; may be empty.
-    /// Whether the system refused the shortcut of a kind when they were last registered.
-    bool isHotkeyRefused(CaptureKind kind) const { return m_refused.contains(kind); }
+    /// Kinds whose shortcut the system refused when they were last registered.
+    const QList<CaptureKind>& refusedHotkeys() const { return m_refused; }
 
     /// Takes a capture; ignored while another one runs.
     void capture(CaptureKind kind);

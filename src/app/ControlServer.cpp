@@ -144,6 +144,8 @@ void ControlServer::follow(ControlConnection& client, const Control::Request& re
         answerLater(m_handlers.edit(wanted->paths), &client);
         return;
     }
+    if (std::holds_alternative<Control::Shortcuts>(request))
+        return client.answer(Control::ShortcutReport {m_handlers.refusedShortcuts()});
     const bool quits = std::holds_alternative<Control::Quit>(request);
     client.answer(Control::Accepted {},
         quits ? ControlConnection::Afterwards::Stay : ControlConnection::Afterwards::HangUp);

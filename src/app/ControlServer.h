@@ -27,6 +27,7 @@ public:
         std::function<Pending<CaptureReport>(QStringList)> pin {};
         std::function<Pending<CaptureReport>(QStringList)> edit {};
         std::function<void(Control::Show::What)> show {};
+        std::function<QList<CaptureKind>()> refusedShortcuts {};
     };
 
     /// Takes the place of the resident program; fails with Error::Kind::Exists if another process

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1String accepted("accepted");
+constexpr QLatin1String accepted("accepted"), shortcuts("shortcuts");
 
 struct OutcomeInfo {
     CaptureReport::Outcome outcome;
@@ -91,6 +91,7 @@ struct RequestWriter {
     {
         return {{u"command"_s, u"pin"_s}, {u"paths"_s, QJsonArray::fromStringList(pin.paths)}};
     }
+    QJsonObject operator()(Control::Shortcuts) const { return {{u"command"_s, shortcuts}}; }
     QJsonObject operator()(Control::Show show) const
     {
         const auto window
@@ -114,9 +115,26 @@ Result<Control::Request> pathsFrom(const QJsonArray& items)
     return Control::Request(wanted);
 }
 
+/// A newer program may have shortcuts that are not known here.
+Control::ShortcutReport shortcutsFrom(const QJsonArray& refused)
+{
+    Control::ShortcutReport report;
+    for (const auto& key : refused)
+        if (const auto kind = captureKind(key.toString()))
+            report.refused << *kind;
+    return report;
+}
+
 struct AnswerWriter {
     QJsonObject operator()(Control::Accepted) const { return {{u"outcome"_s, accepted}}; }
     QJsonObject operator()(const CaptureReport& report) const { return Control::toJson(report); }
+    QJsonObject operator()(const Control::ShortcutReport& report) const
+    {
+        QJsonArray refused;
+        for (const auto kind : report.refused)
+            refused << infoOf(kind).key;
+        return {{u"outcome"_s, shortcuts}, {u"refused"_s, refused}};
+    }
 };
 
 } // namespace
@@ -145,6 +163,8 @@ Result<Control::Request> Control::requestFrom(const QByteArray& line)
         return Request(ShowPanel {});
     if (command == u"quit"_s)
         return Request(Quit {});
+    if (command == shortcuts)
+        return Request(Shortcuts {});
     for (const auto& [what, name] : windows)
         if (command == name)
             return Request(Show {what});
@@ -172,6 +192,8 @@ Result<Control::Answer> Control::answerFrom(const QByteArray& line)
     const QString outcome = object->value(u"outcome").toString();
     if (outcome == accepted)
         return Answer(Accepted {});
+    if (outcome == shortcuts)
+        return Answer(shortcutsFrom(object->value(u"refused").toArray()));
     for (const auto& info : outcomes)
         if (outcome == info.key)
             return Answer(reportFrom(*object, info.outcome));

@@ -34,12 +34,17 @@ struct Edit {
 struct Show {
     enum class What { History, Gallery, Settings } what = What::History;
 };
-using Request = std::variant<ShowPanel, Capture, Quit, Pin, Edit, Show>;
+/// Asks which shortcuts the system refused.
+struct Shortcuts { };
+using Request = std::variant<ShowPanel, Capture, Quit, Pin, Edit, Show, Shortcuts>;
 
 /// What was asked for has begun.
 struct Accepted { };
+struct ShortcutReport {
+    QList<CaptureKind> refused; ///< Kinds that have a shortcut which the system refused.
+};
 /// A request that cannot be followed is answered by a report of its failure.
-using Answer = std::variant<Accepted, CaptureReport>;
+using Answer = std::variant<Accepted, CaptureReport, ShortcutReport>;
 
 /// Lengths of lines in bytes, without the newline. Recognised text may be long.
 inline constexpr qsizetype longestRequest = 64 * 1024;

@@ -223,10 +223,14 @@ TEST_F(AppStateTest, listensToTheShortcutsAsTheyArePreferred)
     system.refused = {KeyCombo::fromText(u"19:4608:2")->chord()};
     EXPECT_EQ(state().hotkeyLabel(CaptureKind::Screen), u"⌃⇧3"_s);
     EXPECT_EQ(system.registered.size(), 4) << "a refused one leaves the others alone";
+    EXPECT_EQ(state().refusedHotkeys(), QList<CaptureKind> {CaptureKind::Window});
     system.press(system.registered.key(KeyCombo::fromText(u"20:4608:3")->chord()));
     EXPECT_FALSE(state().isBusy()) << "not within the event";
     while (!state().last())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+
+    prefs.set(Prefs::keys.hkWindow, u""_s);
+    EXPECT_TRUE(state().refusedHotkeys().isEmpty());
 
     prefs.set(Prefs::keys.hkScreen, u""_s);
     prefs.set(Prefs::keys.captureOpenMenus, true);

@@ -30,6 +30,8 @@ TEST(ControlTest, readsTheRequestsItWrites)
         }
     EXPECT_TRUE(std::holds_alternative<ShowPanel>(*requestFrom(bare(toLine(ShowPanel {})))));
     EXPECT_TRUE(std::holds_alternative<Quit>(*requestFrom(bare(toLine(Request(Quit {}))))));
+    EXPECT_TRUE(
+        std::holds_alternative<Shortcuts>(*requestFrom(bare(toLine(Request(Shortcuts {}))))));
     const QStringList paths {u"/a b/ü.png"_s, u"/c\n.png"_s};
     const auto pin = requestFrom(bare(toLine(Request(Pin {paths}))));
     ASSERT_TRUE(pin);
@@ -78,6 +80,14 @@ TEST(ControlTest, readsTheAnswersItWrites)
     }
     EXPECT_TRUE(std::holds_alternative<Control::Accepted>(
         *Control::answerFrom(bare(Control::toLine(Control::Answer(Control::Accepted {}))))));
+    const Control::ShortcutReport refusals {{CaptureKind::Text, CaptureKind::Window}};
+    const auto told = Control::answerFrom(bare(Control::toLine(Control::Answer(refusals))));
+    ASSERT_TRUE(told);
+    EXPECT_EQ(std::get<Control::ShortcutReport>(*told).refused, refusals.refused);
+    const auto newer
+        = Control::answerFrom(R"({"outcome":"shortcuts","refused":["hologram","region",3]})");
+    EXPECT_EQ(std::get<Control::ShortcutReport>(*newer).refused,
+        QList<CaptureKind> {CaptureKind::Region});
     EXPECT_FALSE(Control::answerFrom(R"({"outcome":"fine"})"));
     EXPECT_FALSE(Control::answerFrom("{}"));
 
