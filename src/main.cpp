@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppState.h"
 #include "app/ControlServer.h"
+#include "app/DoctorCommand.h"
 #include "app/HistoryCommand.h"
 #include "app/OpenFiles.h"
 #include "app/Rooms.h"
@@ -121,6 +122,8 @@ int main(int argc, char** argv)
         const QCoreApplication application(argc, argv);
         return runHistoryCommand(QCoreApplication::arguments().mid(2));
     }
+    if (argc > 1 && std::strcmp(argv[1], "--doctor") == 0)
+        return runDoctorCommand(argc, argv);
     QApplication application(argc, argv);
     QGuiApplication::setApplicationDisplayName(u"Pixmallow"_s);
     QGuiApplication::setDesktopFileName(u"pixmallow"_s);

@@ -21,7 +21,7 @@ _pixmallow() {
     '' | --replace | --background)
         words='--replace --background'
         if [[ -z $command ]]; then
-            words+=' --help --version capture pin edit history gallery settings quit shot list text'
+            words+=' --help --version capture pin edit history gallery settings quit shot list text doctor'
         fi
         ;;
     capture)
@@ -35,6 +35,7 @@ _pixmallow() {
         [[ " ${COMP_WORDS[*]:2} " =~ ' '(screens|windows|history)' ' ]] ||
             words+=' screens windows history'
         ;;
+    doctor) words='--online --json' ;;
     text) words='--json' files=yes ;;
     pin | edit) files=yes ;;
     esac

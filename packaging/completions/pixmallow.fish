@@ -18,6 +18,7 @@ complete -c pixmallow -n $start -a quit -d 'End Pixmallow'
 complete -c pixmallow -n $start -a shot -d 'Write a picture of the desktop to a file'
 complete -c pixmallow -n $start -a list -d 'Print the screens, windows or past captures'
 complete -c pixmallow -n $start -a text -d 'Print the text of pictures'
+complete -c pixmallow -n $start -a doctor -d 'Say what does not work here, and what to do about it'
 
 set -l capture '__fish_seen_subcommand_from capture'
 set -l kinds region window screen delayed text
@@ -42,5 +43,9 @@ complete -c pixmallow -n $list -l json -d 'Print JSON'
 
 set -l text '__fish_seen_subcommand_from text'
 complete -c pixmallow -n $text -l json -d 'Print JSON'
+
+set -l doctor '__fish_seen_subcommand_from doctor'
+complete -c pixmallow -n $doctor -l online -d 'Ask the address of updates, too'
+complete -c pixmallow -n $doctor -l json -d 'Print JSON'
 
 complete -c pixmallow -n '__fish_seen_subcommand_from pin edit text' -F

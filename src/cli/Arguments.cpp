@@ -145,6 +145,10 @@ QList<Command> commands(const QStringList& arguments)
         {u"pin"_s, {}, anyNumber, pin},
         {u"edit"_s, {}, anyNumber, edit},
         {u"text"_s, {flag(u"json"_s)}, anyNumber, text},
+        {u"doctor"_s, {flag(u"online"_s), flag(u"json"_s)}, 0,
+            [](const auto& parser) {
+                return Request(DoctorRequest {parser.isSet(u"online"_s), parser.isSet(u"json"_s)});
+            }},
         {u"history"_s, {}, 0,
             [](auto&) { return Request(ShowRequest {Control::Show::What::History}); }},
         {u"settings"_s, {}, 0,
@@ -232,6 +236,7 @@ usage:
   pixmallow list screens|windows [--json]
   pixmallow list history [--search WORDS] [--json]
   pixmallow text FILE... [--json]
+  pixmallow doctor [--online] [--json]
   pixmallow --version | --help
 
 Without a command Pixmallow starts, stays in the background and opens its panel;
@@ -277,6 +282,13 @@ list   Prints the screens, the windows on screen with the front-most first, or
 text   Prints the text of pictures, or what the QR and bar codes in them say if
        there is no other text. With several files each text has a heading.
   --json         print a line of JSON for each file
+
+doctor Examines how well Pixmallow can work here and says what to do about what is
+       not well: screens, of which each shows a small pattern for a moment,
+       shortcuts, clipboard, tray, text recognition, sound, folders, updates.
+       Exit code 0 if all is well, 1 if something needs attention.
+  --online       ask the address of updates, too
+  --json         print a list of what was found
 
 Exit code: 0 done, 1 cancelled by the user, 2 failed, 3 another capture is
 running, 64 wrong arguments.

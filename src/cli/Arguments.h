@@ -47,6 +47,11 @@ struct TextRequest {
     bool json = false;
 };
 
+struct DoctorRequest {
+    bool online = false; ///< Asks the address of updates, too.
+    bool json = false;
+};
+
 /// Becoming the resident program, with the options it is given.
 struct LaunchRequest {
     QStringList options;
@@ -69,8 +74,8 @@ struct QuitRequest { };
 struct HelpRequest { };
 struct VersionRequest { };
 
-using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, TextRequest, LaunchRequest,
-    PinRequest, EditRequest, ShowRequest, QuitRequest, HelpRequest, VersionRequest>;
+using Request = std::variant<ShotRequest, ListRequest, CaptureRequest, TextRequest, DoctorRequest,
+    LaunchRequest, PinRequest, EditRequest, ShowRequest, QuitRequest, HelpRequest, VersionRequest>;
 
 /// What the words behind the program's name ask for, or one line that says what is wrong with them.
 Result<Request> parseArguments(const QStringList& arguments);

@@ -20,6 +20,9 @@ Result<int> runCapture(const CaptureRequest& request);
 /// Becomes the program that prints the text of pictures. Returns only if that fails.
 Error runText(const TextRequest& request);
 
+/// Becomes the program that examines how well all this works here. Returns only if that fails.
+Error runDoctor(const DoctorRequest& request);
+
 /// Becomes the resident program. Returns only if that fails.
 Error runLaunch(const LaunchRequest& request);
 

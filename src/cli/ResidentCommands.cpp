@@ -11,6 +11,16 @@ Error runText(const TextRequest& request)
     return ResidentProgram::become(options + QStringList {QStringLiteral("--")} + request.files);
 }
 
+Error runDoctor(const DoctorRequest& request)
+{
+    QStringList options {QStringLiteral("--doctor")};
+    if (request.online)
+        options << QStringLiteral("--online");
+    if (request.json)
+        options << QStringLiteral("--json");
+    return ResidentProgram::become(options);
+}
+
 Error runLaunch(const LaunchRequest& request)
 {
     return ResidentProgram::become(request.options);

@@ -36,6 +36,11 @@ Result<int> run(const TextRequest& request)
     return runText(request);
 }
 
+Result<int> run(const DoctorRequest& request)
+{
+    return runDoctor(request);
+}
+
 Result<int> run(const LaunchRequest& request)
 {
     return runLaunch(request);

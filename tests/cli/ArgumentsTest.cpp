@@ -52,6 +52,8 @@ TEST(ArgumentsTest, understandsWhatTheResidentProgramIsAskedFor)
     const auto text = std::get<TextRequest>(*parse(u"text a.png --json -- -b.png --json"_s));
     EXPECT_EQ(text.files, (QStringList {u"a.png"_s, u"-b.png"_s, u"--json"_s}));
     EXPECT_TRUE(text.json);
+    const auto doctor = std::get<DoctorRequest>(*parse(u"doctor --json"_s));
+    EXPECT_TRUE(doctor.json && !doctor.online);
     EXPECT_EQ(std::get<LaunchRequest>(*parse(u""_s)).options, QStringList());
     EXPECT_EQ(
         std::get<LaunchRequest>(*parse(u"--replace"_s)).options, QStringList {u"--replace"_s});

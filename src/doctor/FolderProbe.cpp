@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "doctor/FolderProbe.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <QTemporaryFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The folder itself or the nearest one above it that is there.
+QFileInfo nearest(const QString& path)
+{
+    QFileInfo info(QDir::cleanPath(path));
+    while (!info.exists() && !info.isRoot() && info.absolutePath() != info.absoluteFilePath())
+        info = QFileInfo(info.absolutePath());
+    return info;
+}
+
+} // namespace
+
+QString FolderProbe::problemOf(const QString& path)
+{
+    const auto there = nearest(path);
+    if (!there.isDir())
+        return u"“%1” is not a folder."_s.arg(there.filePath());
+    if (there.absoluteFilePath() != QFileInfo(QDir::cleanPath(path)).absoluteFilePath())
+        return there.isWritable()
+            ? QString()
+            : u"It is missing and cannot be made in “%1”."_s.arg(there.filePath());
+    // Permissions alone tell neither of a full disk nor of one that is mounted read-only.
+    QTemporaryFile file(there.absoluteFilePath() + u"/.pixmallow-XXXXXX"_s);
+    const QByteArray bytes(4096, 'x');
+    if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
+        return u"Nothing can be written there: %1."_s.arg(file.errorString());
+    return {};
+}
+
+qint64 FolderProbe::freeBytes(const QString& path)
+{
+    return QStorageInfo(nearest(path).absoluteFilePath()).bytesAvailable();
+}
