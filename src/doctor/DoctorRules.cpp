@@ -286,7 +286,7 @@ DoctorCheck DoctorRules::judge(const DoctorFacts::Updates& updates)
         check.detail += updates.areWanted ? u" With --online it is asked."_s
                                           : u" Looking for updates is switched off."_s;
     } else if (!*updates.published) {
-        check.detail = u"“%1” does not answer: %2"_s.arg(
+        check.detail = u"Asking “%1” failed: %2"_s.arg(
             updates.feed, sentence(updates.published->error().message));
         check.advice
             = u"See whether this computer is connected to the network, and try again later."_s;
