@@ -17,14 +17,16 @@
 
 #include <cstdio>
 #include <cstring>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
 
-/// How long the program that is replaced may take to finish what it writes.
+/// How long the program that is replaced, or just ends, may take to finish what it writes.
 constexpr auto replacement = 20s;
+constexpr auto between = 20ms; ///< Looks whether it has.
 
 /// How long a capture that runs when the program is told to end may take to reach its file.
 constexpr auto lastCapture = 10s;
@@ -33,18 +35,6 @@ int fail(const Error& error)
 {
     std::fprintf(stderr, "pixmallow: %s\n", error.message.toLocal8Bit().constData());
     return 2;
-}
-
-/// Another process is the resident one: the user who starts the program again wants to see it.
-int showOther(const Folders& folders)
-{
-    auto resident = ControlClient::connect(folders);
-    if (!resident)
-        return fail(resident.error());
-    if (!*resident)
-        return fail(Error::failed(u"Pixmallow is just ending; start it again."_s));
-    const auto answer = (*resident)->ask(Control::ShowPanel {});
-    return answer ? 0 : fail(answer.error());
 }
 
 /// By the user, who is to see something, or for a request of another program.
@@ -109,6 +99,31 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     return code;
 }
 
+/// Becomes the resident program. Where another process is that already, the user who starts the
+/// program again wants to see it; for a request of another program it does not matter which it is.
+int run(const Folders& folders, Start start)
+{
+    const QDeadlineTimer deadline(replacement);
+    for (;; std::this_thread::sleep_for(between)) {
+        auto server = ControlServer::listen(folders);
+        if (server)
+            return runResident(folders, *std::move(server), start);
+        if (server.error().kind != Error::Kind::Exists)
+            return fail(server.error());
+        if (start == Start::Background)
+            return 0;
+        auto resident = ControlClient::connect(folders);
+        if (!resident)
+            return fail(resident.error());
+        if (*resident) {
+            const auto answer = (*resident)->ask(Control::ShowPanel {});
+            return answer ? 0 : fail(answer.error());
+        }
+        if (deadline.hasExpired()) // It is just beginning or just ending, usually.
+            return fail(Error::failed(u"Pixmallow runs but does not answer."_s));
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -132,15 +147,9 @@ int main(int argc, char** argv)
 
     const auto folders = Folders::ofUser();
     const auto arguments = QCoreApplication::arguments();
-    // In the background, for somebody's request, it does not matter which process is there.
     const auto start = arguments.contains(u"--background"_s) ? Start::Background : Start::Seen;
     if (arguments.contains(u"--replace"_s))
         if (const auto gone = askResidentToQuitAndWait(folders, replacement); !gone)
             return fail(gone.error());
-    auto server = ControlServer::listen(folders);
-    if (server)
-        return runResident(folders, *std::move(server), start);
-    if (server.error().kind != Error::Kind::Exists)
-        return fail(server.error());
-    return start == Start::Background ? 0 : showOther(folders);
+    return run(folders, start);
 }

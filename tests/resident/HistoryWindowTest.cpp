@@ -108,6 +108,7 @@ TEST_F(HistoryWindowTest, thePetIsRenamedWithTheKeyboardAlone)
 
 TEST_F(HistoryWindowTest, whatIsUnlockedIsToldWhenNobodyHasTheScreenToItself)
 {
+    setPreferences(R"({"afterCapture":"none","captureAnimation":"none"})");
     const QPoint corner(1280 - 16 - 150, 16 + 8); // On a pop-up's card, above its text.
     const auto shown = [&](QRgb ground) {
         return desktop().rootPixels(QRect(corner, QSize(1, 1))).pixel(0, 0) != ground;

@@ -135,7 +135,11 @@ TEST_F(ResidentTest, capturesWhenItsShortcutIsPressed)
     desktop().key("ctrl+shift+1");
     ASSERT_TRUE(waitFor([&] { return !equal(desktop().rootPixels(), bright); }));
     desktop().key("ctrl+shift+3"); // Dropped, and the selection stays.
-    desktop().key("space");
+    EXPECT_TRUE(waitFor([&] { // It is seen a moment before it has the keyboard.
+        desktop().key("space");
+        return waitFor(
+            [&] { return saved().size() == before + 3; }, std::chrono::milliseconds(500));
+    }));
     EXPECT_TRUE(hasEnded(3));
 }
 
