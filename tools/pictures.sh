@@ -5,6 +5,14 @@
 
 # shellcheck disable=SC2154 # root is set by ./dev.
 
+# What every script may call: captures show nothing afterwards.
+# shellcheck disable=SC2016
+readonly quietly='quietly() {
+    mkdir -p ~/.config/Pixmallow
+    echo "{\"afterCapture\":\"none\",\"achievementToasts\":false}" >~/.config/Pixmallow/preferences.json
+}
+'
+
 # picture NAME WIDTHxHEIGHT SCRIPT [OPTION...]: runs the script in a desktop with a realistic
 # background and the given options; it leaves its picture at $picture.
 picture() {
@@ -14,7 +22,7 @@ picture() {
     background=$(mktemp --suffix=.png)
     QT_QPA_PLATFORM=offscreen "$programs/screen-content" desk "$size" "$background" >/dev/null
     picture=$root/docs/$name.png "$programs/virtual-desktop" --size "$size" --compositor \
-        --picture "$background" "$@" -- bash -euc "$script" >/dev/null
+        --picture "$background" "$@" -- bash -euc "$quietly$script" >/dev/null
     rm -f -- "$background"
     say "docs/$name.png"
 }
@@ -74,8 +82,7 @@ take_pictures() {
 
     # shellcheck disable=SC2016
     picture history 1440x900 '
-        mkdir -p ~/.config/Pixmallow
-        echo "{\"afterCapture\":\"none\",\"achievementToasts\":false}" >~/.config/Pixmallow/preferences.json
+        quietly
         region() {
             pixmallow capture region --wait &
             sleep 1.2
@@ -92,10 +99,25 @@ take_pictures() {
 
     # shellcheck disable=SC2016
     picture gallery 1440x900 '
-        mkdir -p ~/.config/Pixmallow
-        echo "{\"afterCapture\":\"none\",\"achievementToasts\":false}" >~/.config/Pixmallow/preferences.json
+        quietly
         for _ in 1 2 3; do pixmallow capture screen --wait; sleep 0.3; done
         pixmallow gallery
+        sleep 2
+        scrot -u -o "$picture"
+        pixmallow quit'
+
+    # shellcheck disable=SC2016
+    picture panel 1440x900 '
+        quietly
+        for _ in 1 2 3; do pixmallow capture screen --wait; sleep 0.3; done
+        pixmallow
+        sleep 2
+        scrot -a 1080,340,360,560 -o "$picture"
+        pixmallow quit' --tray
+
+    # shellcheck disable=SC2016
+    picture settings 1440x900 '
+        pixmallow settings
         sleep 2
         scrot -u -o "$picture"
         pixmallow quit'

@@ -23,7 +23,7 @@ double luminance(QColor colour)
 
 double Contrast::ratio(QColor first, QColor second)
 {
-    const auto [dark, light] = std::minmax(luminance(first), luminance(second));
+    const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
     return (light + 0.05) / (dark + 0.05);
 }
 
