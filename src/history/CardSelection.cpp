@@ -10,7 +10,7 @@ void CardSelection::choose(const QStringList& ids, int index, How how)
     m_currentId = ids[index];
     if (how == How::UpTo) {
         const auto anchor = ids.indexOf(m_anchorId);
-        const auto [from, to] = std::minmax<qsizetype>(anchor < 0 ? index : anchor, index);
+        const auto [from, to] = std::minmax<qsizetype>({anchor < 0 ? index : anchor, index});
         m_chosen = {ids.begin() + from, ids.begin() + to + 1};
         if (anchor >= 0)
             return;
