@@ -64,6 +64,8 @@ take_pictures() {
         pixmallow shot --output picture.png
         pixmallow edit picture.png
         sleep 2.5
+        xdotool key v
+        sleep 0.5
         xdotool key r; drag 796 164 900 180 1046 200
         xdotool key a; drag 660 420 700 330 788 212
         xdotool key b; drag 200 210 300 280 450 330
