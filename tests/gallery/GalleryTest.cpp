@@ -17,7 +17,8 @@ namespace {
 constexpr char renewal[] = "PIXMALLOW_NEW_GOLDEN_IMAGES";
 
 /// Looked at with two pixels per point as well: those with the finest drawing.
-const QStringList denseScenes {u"editor"_s, u"stickers"_s};
+const QStringList denseScenes {u"editor"_s, u"stickers"_s, u"preview"_s, u"panel"_s,
+    u"settings-general"_s, u"settings-shortcuts"_s, u"history"_s, u"pop-up"_s};
 
 struct Dress {
     QString skin;
