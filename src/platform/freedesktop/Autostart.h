@@ -4,8 +4,8 @@
 
 #include "base/Result.h"
 
-/// The entry by which a desktop starts the program when the user logs in; see "Desktop Application
-/// Autostart Specification" of freedesktop.org.
+/// The entry by which a desktop starts the program when the user logs in; see
+/// "Desktop Application Autostart" of freedesktop.org.
 namespace Autostart {
 
 /// Whether there is an entry that is not switched off.
