@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "fun/CaptureFx.h"
 
+#include "fun/FxOutline.h"
+#include "fun/FxPanel.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
@@ -37,7 +40,7 @@ CaptureFx::CaptureFx(const Surroundings& surroundings)
 {
     // What was blended would be black now.
     connect(&m_surroundings.surfaces, &SurfaceTraits::blendingChanged, this,
-        [this] { m_panels.clear(); });
+        [this] { m_running.clear(); });
 }
 
 QString CaptureFx::current() const
@@ -53,16 +56,26 @@ void CaptureFx::play(const QString& kind, QRectF area, const QImage& image)
     const DisplayInfo* display = FxRules::displayOf(area, displays);
     if (plan.kind == FxKind::None || !FxRules::isLargeEnough(area) || !display)
         return;
-    auto scene = FxScene::make(plan, stageOn(*display, area, image));
-    m_panels.push_back(std::make_unique<FxPanel>(m_surroundings.surfaces, *display,
-        std::move(scene), plan.kind == FxKind::Fly ? image : QImage()));
-    FxPanel* panel = m_panels.back().get();
-    panel->play();
+    m_running.push_back(begin(plan, *display, area, image));
+    const QObject* effect = m_running.back().get();
     const auto life = std::chrono::duration<double>(plan.duration + afterglow);
     QTimer::singleShot(std::chrono::duration_cast<std::chrono::milliseconds>(life),
-        Qt::PreciseTimer, panel, [this, panel] {
-            m_panels.remove_if([panel](const auto& each) { return each.get() == panel; });
+        Qt::PreciseTimer, effect, [this, effect] {
+            m_running.remove_if([effect](const auto& each) { return each.get() == effect; });
         });
+}
+
+std::unique_ptr<QObject> CaptureFx::begin(
+    FxRules::Plan plan, const DisplayInfo& display, QRectF area, const QImage& image)
+{
+    const FxStage stage = stageOn(display, area, image);
+    if (plan.kind == FxKind::Outline)
+        return std::make_unique<FxOutline>(
+            m_surroundings.surfaces, display, stage.area, plan.duration, stage.theme.accent);
+    auto panel = std::make_unique<FxPanel>(m_surroundings.surfaces, display,
+        FxScene::make(plan, stage), plan.kind == FxKind::Fly ? image : QImage());
+    panel->play();
+    return panel;
 }
 
 FxStage CaptureFx::stageOn(const DisplayInfo& display, QRectF area, const QImage& image)

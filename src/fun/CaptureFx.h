@@ -3,7 +3,8 @@
 #pragma once
 
 #include "base/Prefs.h"
-#include "fun/FxPanel.h"
+#include "fun/FxScene.h"
+#include "platform/SurfaceTraits.h"
 
 #include <functional>
 #include <list>
@@ -31,7 +32,7 @@ public:
     QString current() const;
 
     /// How many effects are on screen.
-    int running() const { return int(m_panels.size()); }
+    int running() const { return int(m_running.size()); }
 
     /// Where the tray's icon is, in points of the toolkit's desktop, y down; none while unknown.
     void setTrayIcon(std::function<std::optional<QPointF>()> where)
@@ -40,10 +41,13 @@ public:
     }
 
 private:
+    /// What shows an effect as long as it lives.
+    std::unique_ptr<QObject> begin(
+        FxRules::Plan plan, const DisplayInfo& display, QRectF area, const QImage& image);
     FxStage stageOn(const DisplayInfo& display, QRectF area, const QImage& image);
 
     Surroundings m_surroundings;
     std::function<std::optional<QPointF>()> m_trayIcon;
-    std::list<std::unique_ptr<FxPanel>> m_panels;
+    std::list<std::unique_ptr<QObject>> m_running;
     quint32 m_played = 0;
 };

@@ -30,12 +30,12 @@ qint64 pixelsOf(const QRegion& points, double scale)
 
 FxPanel::FxPanel(SurfaceTraits& surfaces, const DisplayInfo& display,
     std::unique_ptr<FxScene> scene, const QImage& picture)
-    : m_surfaces(surfaces)
-    , m_display(display)
+    : m_display(display)
     , m_scene(std::move(scene))
     , m_painter(picture)
     , m_store(this)
     , m_clock([this](double seconds) { paintAt(seconds); })
+    , m_shown(m_scene->bounds().toAlignedRect() & QRect({}, pointsOf(display)))
     , m_drawn(pointsOf(display), int(std::ceil(tileSide / display.scale)))
     , m_drawing(m_drawn)
 {
@@ -45,12 +45,12 @@ FxPanel::FxPanel(SurfaceTraits& surfaces, const DisplayInfo& display,
     setFormat(blended);
     setFlags(Qt::Tool | Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus
         | Qt::NoDropShadowWindowHint);
-    m_surfaces.makeOverlay(*this, display);
+    surfaces.makeOverlay(*this, display);
 }
 
 void FxPanel::play()
 {
-    cutTo(m_scene->at(0));
+    setMask(m_shown);
     show();
     m_clock.start();
     paintAt(0);
@@ -59,11 +59,6 @@ void FxPanel::play()
 qint64 FxPanel::paintAt(double seconds)
 {
     const FxSprites sprites = m_scene->at(seconds);
-    if (!m_surfaces.blendsWindows()) {
-        cutTo(sprites);
-        if (!m_fresh) // What is still shown looks as it did.
-            return 0;
-    }
     m_drawing.clear();
     for (const auto& sprite : sprites)
         m_drawing.add(sprite.box());
@@ -89,28 +84,8 @@ qint64 FxPanel::paintAt(double seconds)
 
 bool FxPanel::isPaintedOver(const QRegion& changed, const FxSprites& sprites) const
 {
-    if (!m_surfaces.blendsWindows()) // Cut to what is drawn.
-        return true;
     return !sprites.empty() && sprites.front().shape == FxSprite::Shape::Ground
         && sprites.front().area().contains(changed.boundingRect());
-}
-
-/// To where anything is ever drawn: the less of the screen has to be blended, the better. Where
-/// nothing is blended, to what is drawn now.
-void FxPanel::cutTo(const FxSprites& sprites)
-{
-    QRegion drawn;
-    if (m_surfaces.blendsWindows())
-        drawn = m_scene->bounds().toAlignedRect();
-    else
-        for (const auto& sprite : sprites)
-            if (sprite.shape == FxSprite::Shape::Square && qAlpha(sprite.colour) == 255)
-                drawn += sprite.area().toAlignedRect();
-    m_shown = drawn & QRect({}, pointsOf(m_display));
-    if (m_shown.isEmpty())
-        hide(); // To the toolkit an empty mask is none.
-    else
-        setMask(m_shown);
 }
 
 void FxPanel::exposeEvent(QExposeEvent*)

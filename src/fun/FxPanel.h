@@ -12,7 +12,7 @@
 #include <QWindow>
 
 /// A window over one whole screen that shows an effect and nothing else: clicks pass through, it is
-/// never active, and no capture shows it. Where windows are not blended it is cut to what is drawn.
+/// never active, and no capture shows it. Only for where windows are blended.
 class FxPanel final : public QWindow {
 public:
     FxPanel(SurfaceTraits& surfaces, const DisplayInfo& display, std::unique_ptr<FxScene> scene,
@@ -29,15 +29,15 @@ protected:
 
 private:
     bool isPaintedOver(const QRegion& changed, const FxSprites& sprites) const;
-    void cutTo(const FxSprites& sprites);
 
-    SurfaceTraits& m_surfaces;
     const DisplayInfo m_display;
     const std::unique_ptr<FxScene> m_scene;
     FxPainter m_painter;
     QBackingStore m_store;
     FrameClock m_clock;
-    QRegion m_shown; ///< What the window is cut to, in its points.
+    /// Where anything is ever drawn, in points of the window, which is cut to it: the less of the
+    /// screen has to be blended, the better.
+    const QRect m_shown;
     FxTiles m_drawn, m_drawing; ///< By the last frame and by the one being painted.
     bool m_fresh = true; ///< Nothing is in the store yet.
 };

@@ -9,6 +9,7 @@ namespace {
 constexpr double leastExtent = 2;
 constexpr double unknownDuration = 1;
 constexpr double panelEnd = 64; ///< From the corner to where a tray usually is, in points.
+constexpr double outlineThickness = 6; ///< Points, at first.
 constexpr double panelMiddle = 14; ///< From the edge of the screen, in points.
 
 const FxKindInfo* find(QStringView text)
@@ -34,6 +35,20 @@ FxRules::Plan FxRules::adapted(Plan plan, Movement movement, Windows windows)
     if (windows == Windows::Opaque)
         return {FxKind::Outline, flash.duration};
     return movement == Movement::Reduced ? flash : plan;
+}
+
+std::array<QRect, 4> FxRules::outlineAt(double seconds, double duration, QRectF area)
+{
+    const double left = std::max(1 - seconds / duration, 0.0);
+    const int thickness = qRound(outlineThickness * left * left);
+    if (thickness == 0)
+        return {};
+    const QRect outer = area.toAlignedRect();
+    const QRect inner = outer.adjusted(thickness, thickness, -thickness, -thickness);
+    return {outer.adjusted(0, 0, 0, -(outer.height() - thickness)),
+        outer.adjusted(0, outer.height() - thickness, 0, 0),
+        QRect(outer.left(), inner.top(), thickness, inner.height()),
+        QRect(inner.right() + 1, inner.top(), thickness, inner.height())};
 }
 
 QString FxRules::known(const QString& stored)

@@ -52,6 +52,10 @@ enum class Movement { Full, Reduced };
 enum class Windows { Blended, Opaque };
 Plan adapted(Plan plan, Movement movement, Windows windows);
 
+/// The sides of an outline that grows thinner inside an area's edge: top, bottom, left, right.
+/// Whole points, at least one thick; empty once it has ended.
+std::array<QRect, 4> outlineAt(double seconds, double duration, QRectF area);
+
 /// The text of a kind: as stored if it is one of fxKinds, else the flash.
 QString known(const QString& stored);
 

@@ -17,7 +17,6 @@ constexpr double confettiAbove = 200;
 constexpr double confettiBelow = 320;
 
 constexpr double brightest = 0.55;
-constexpr double outlineThickness = 6; ///< Points, at first.
 
 double fallingOff(double seconds, double duration)
 {
@@ -47,45 +46,13 @@ private:
     double m_duration;
 };
 
-/// A frame inside the area's edge that grows thinner. Opaque all over.
-class Outline final : public FxScene {
-public:
-    Outline(QRectF area, double duration, QRgb colour)
-        : m_area(area)
-        , m_duration(duration)
-        , m_colour(colour)
-    {
-    }
-
-    FxSprites at(double seconds) const override
-    {
-        const double thickness = outlineThickness * fallingOff(seconds, m_duration);
-        if (thickness < 0.5)
-            return {};
-        const double width = m_area.width(), height = m_area.height();
-        const auto side = [&](QPointF corner, QSizeF size) {
-            const QRectF box(corner, size);
-            return FxSprite {FxSprite::Shape::Square, box.center(), size, 0, m_colour};
-        };
-        return {side(m_area.topLeft(), {width, thickness}),
-            side(m_area.bottomLeft() - QPointF(0, thickness), {width, thickness}),
-            side(m_area.topLeft(), {thickness, height}),
-            side(m_area.topRight() - QPointF(thickness, 0), {thickness, height})};
-    }
-    QRectF bounds() const override { return m_area; }
-
-private:
-    QRectF m_area;
-    double m_duration;
-    QRgb m_colour;
-};
-
 } // namespace
 
 std::unique_ptr<FxScene> FxScene::make(FxRules::Plan plan, const FxStage& stage)
 {
     switch (plan.kind) {
     case FxKind::None:
+    case FxKind::Outline:
         break;
     case FxKind::Flash:
         return std::make_unique<Flash>(stage.area, plan.duration);
@@ -103,8 +70,6 @@ std::unique_ptr<FxScene> FxScene::make(FxRules::Plan plan, const FxStage& stage)
         return std::make_unique<Crumbling>(stage, plan.duration);
     case FxKind::Fly:
         return std::make_unique<FlyAway>(stage, plan.duration);
-    case FxKind::Outline:
-        return std::make_unique<Outline>(stage.area, plan.duration, stage.theme.accent.rgb());
     }
     return nullptr;
 }

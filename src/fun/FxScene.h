@@ -28,6 +28,6 @@ public:
     virtual FxSprites at(double seconds) const = 0; ///< Lowest first.
     virtual QRectF bounds() const = 0; ///< All sprites of all times lie within, or off the screen.
 
-    /// Null for FxKind::None.
+    /// Null for FxKind::None, and for FxKind::Outline, which FxOutline shows.
     static std::unique_ptr<FxScene> make(FxRules::Plan plan, const FxStage& stage);
 };

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QRegion>
 
+class QColor;
 class QMouseEvent;
 class QWindow;
 
@@ -35,6 +36,10 @@ public:
     /// Makes a window that has not been shown cover one screen exactly, above panels and
     /// full-screen windows, without becoming active and without anything around it.
     virtual void makeOverlay(QWindow& window, const DisplayInfo& display) = 0;
+
+    /// Has the system fill a window that was created and has not been shown, instead of its owner,
+    /// who then must not paint it.
+    virtual void fill(QWindow& window, const QColor& colour) = 0;
 
     /// Sends all keys to a window on screen until releaseKeyboard(), whichever window is active.
     /// While another program holds the keyboard, as an open menu does, it is tried again and again.

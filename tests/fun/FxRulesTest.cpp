@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "fun/FxRules.h"
 
+#include <QRegion>
+
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +32,28 @@ TEST(FxRulesTest, knowsKindsByTheirTextAndFliesForAnyOther)
     EXPECT_EQ(known(u"fly"_s), u"fly"_s);
     EXPECT_EQ(known(u"outline"_s), u"flash"_s);
     EXPECT_EQ(known({}), u"flash"_s);
+}
+
+TEST(FxRulesTest, theOutlineIsOneFrameThatThinsAndEnds)
+{
+    const QRectF area(100.5, 60, 120, 90);
+    const QRect outer(100, 60, 121, 90);
+    int before = 7;
+    for (const double seconds : {0.0, 0.1, 0.2}) {
+        QRegion frame;
+        int pixels = 0;
+        for (const QRect& side : outlineAt(seconds, 0.3, area)) {
+            frame += side;
+            pixels += side.width() * side.height();
+        }
+        const int thickness = outlineAt(seconds, 0.3, area)[0].height();
+        const QRect inner = outer.adjusted(thickness, thickness, -thickness, -thickness);
+        EXPECT_EQ(frame, QRegion(outer) - inner) << seconds;
+        EXPECT_EQ(pixels, outer.width() * outer.height() - inner.width() * inner.height());
+        EXPECT_LT(thickness, std::exchange(before, thickness));
+    }
+    for (const QRect& side : outlineAt(0.3, 0.3, area))
+        EXPECT_TRUE(side.isEmpty());
 }
 
 TEST(FxRulesTest, flashesWithoutMotionAndOutlinesWithoutBlending)

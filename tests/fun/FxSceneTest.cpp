@@ -177,13 +177,3 @@ TEST(FxSceneTest, confettiRainsFromAboveOneAfterTheOther)
         EXPECT_LT(sprite.centre.y(), 40);
     EXPECT_TRUE(rain.at(2).empty());
 }
-
-TEST(FxSceneTest, theOutlineIsOpaqueAndLeavesTheMiddleFree)
-{
-    const auto outline = FxScene::make({FxKind::Outline, 0.3}, stageOf({100, 60, 120, 90}));
-    const QImage picture = pictureOf(*outline, 0);
-    for (const QPoint edge : {QPoint(100, 60), {219, 149}, {160, 62}, {102, 100}})
-        EXPECT_EQ(qAlpha(picture.pixel(edge)), 255);
-    EXPECT_EQ(qAlpha(picture.pixel(160, 100)), 0);
-    EXPECT_TRUE(outline->at(0.3).empty());
-}

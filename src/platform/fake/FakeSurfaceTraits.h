@@ -15,6 +15,7 @@ public:
     void takeFocus(QWindow& window) override { focused = &window; }
     void returnFocus() override { focused = nullptr; }
     void makeOverlay(QWindow&, const DisplayInfo&) override { }
+    void fill(QWindow&, const QColor&) override { }
     void grabKeyboard(QWindow&) override { }
     void releaseKeyboard() override { }
     QPoint nativePosition(const QMouseEvent& event, const QWindow&) const override

@@ -140,6 +140,12 @@ void X11SurfaceTraits::makeOverlay(QWindow& window, const DisplayInfo& display)
         xcb_window_t(window.winId()), 0, 0, 1, &part);
 }
 
+void X11SurfaceTraits::fill(QWindow& window, const QColor& colour)
+{
+    const std::uint32_t pixel = colour.rgb();
+    xcb_change_window_attributes(m_xcb, xcb_window_t(window.winId()), XCB_CW_BACK_PIXEL, &pixel);
+}
+
 void X11SurfaceTraits::grabKeyboard(QWindow& window)
 {
     m_keyboardTarget = &window;

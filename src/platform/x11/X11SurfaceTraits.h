@@ -24,6 +24,7 @@ public:
     void takeFocus(QWindow& window) override;
     void returnFocus() override;
     void makeOverlay(QWindow& window, const DisplayInfo& display) override;
+    void fill(QWindow& window, const QColor& colour) override;
     void grabKeyboard(QWindow& window) override;
     void releaseKeyboard() override;
     QPoint nativePosition(const QMouseEvent& event, const QWindow& window) const override;
