@@ -4,6 +4,7 @@
 
 #include "base/Worker.h"
 #include "capture/Files.h"
+#include "history/EntryPicture.h"
 #include "widgets/Icons.h"
 
 #include <QDrag>
@@ -38,12 +39,6 @@ QStringList pathsOf(const QList<HistoryItem>& items)
     return paths;
 }
 
-/// A private copy is no file of the user's, who saved that capture nowhere.
-FinishedCapture captureOf(const HistoryItem& item, const QImage& image)
-{
-    return {{image, item.scale, item.app, {}}, item.cached ? QString() : item.path, item.id};
-}
-
 } // namespace
 
 HistoryActions::HistoryActions(Means means)
@@ -53,20 +48,15 @@ HistoryActions::HistoryActions(Means means)
 
 void HistoryActions::withShot(const HistoryItem& item, std::function<void(FinishedCapture)> act)
 {
-    auto read = [item]() -> Result<QImage> {
-        QImage image = decoded(item.path);
-        if (image.isNull())
-            return Error::failed(u"“%1” cannot be read."_s.arg(QFileInfo(item.path).fileName()));
-        return image;
-    };
+    auto read = [item] { return readEntry(item); };
     runOnWorker(read).then(
-        [self = QPointer(this), item, act = std::move(act)](const Result<QImage>& image) {
+        [self = QPointer(this), act = std::move(act)](const Result<FinishedCapture>& capture) {
             if (!self)
                 return;
-            if (image)
-                act(captureOf(item, *image));
+            if (capture)
+                act(*capture);
             else
-                self->tell(u"No picture"_s, failure, image.error().message);
+                self->tell(u"No picture"_s, failure, capture.error().message);
         });
 }
 

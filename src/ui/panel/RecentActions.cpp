@@ -3,22 +3,12 @@
 #include "ui/panel/RecentActions.h"
 
 #include "base/Worker.h"
+#include "history/EntryPicture.h"
 
-#include <QImageReader>
 #include <QMenu>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-FinishedCapture captureOf(const HistoryItem& item, const QImage& image)
-{
-    // A copy that only the history has is no file of the user's.
-    return {{image, item.scale, item.app, {}}, item.cached ? QString() : item.path, item.id};
-}
-
-} // namespace
 
 RecentActions::RecentActions(ShotActions actions, QString revealTitle)
     : m_actions(std::move(actions))
@@ -28,17 +18,11 @@ RecentActions::RecentActions(ShotActions actions, QString revealTitle)
 
 void RecentActions::with(const HistoryItem& item, std::function<void(const FinishedCapture&)> act)
 {
-    auto read = [path = item.path]() -> Result<QImage> {
-        QImageReader reader(path);
-        const QImage image = reader.read();
-        if (image.isNull())
-            return Error::failed(reader.errorString());
-        return image;
-    };
+    auto read = [item] { return readEntry(item); };
     const QPointer self(this);
-    runOnWorker(read).then([self, item, act = std::move(act)](const Result<QImage>& image) {
-        if (self && image)
-            act(captureOf(item, *image));
+    runOnWorker(read).then([self, act = std::move(act)](const Result<FinishedCapture>& capture) {
+        if (self && capture)
+            act(*capture);
     });
 }
 
