@@ -4,7 +4,6 @@
 #include "app/ControlServer.h"
 #include "app/DoctorCommand.h"
 #include "app/HistoryCommand.h"
-#include "app/OpenFiles.h"
 #include "app/Rooms.h"
 #include "app/TerminationSignals.h"
 #include "app/TextCommand.h"
@@ -82,16 +81,7 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     });
     QObject::connect(
         qApp, &QGuiApplication::commitDataRequest, qApp, [&rooms] { rooms.editors().closeNow(); });
-    server->serve({[&state] { Q_EMIT state.panelRequested(); },
-        [&state](CaptureKind kind) { return state.captureAndReport(kind); },
-        [] { QCoreApplication::quit(); },
-        [&rooms](const QStringList& paths) {
-            return openFiles(paths,
-                [&rooms](const FinishedCapture& picture) { rooms.pins().show(picture.shot); });
-        },
-        [&rooms](const QStringList& paths) { return rooms.editFiles(paths); },
-        [&state](Control::Show::What what) { state.show(what); },
-        [&state] { return state.refusedHotkeys(); }});
+    server->serve(Requests::to(state, rooms));
     const int code = QApplication::exec();
     rooms.cancelQuestions();
     finishCapture(state);

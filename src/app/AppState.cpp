@@ -146,11 +146,11 @@ Pending<CaptureReport> AppState::captureAndReport(CaptureKind kind)
             CaptureReport {Outcome::Busy, u"Another capture is running."_s});
     if (!isAvailable(kind))
         return Pending<CaptureReport>::answered(
-            CaptureReport {Outcome::Failed, u"This kind of capture is not available."_s});
+            CaptureReport {Outcome::Unavailable, u"This kind of capture is not available."_s});
     if (!m_platform.capture->permitted()) {
         pass(m_stages.showPermissionWindow);
         return Pending<CaptureReport>::answered(
-            CaptureReport {Outcome::Failed, u"The screen may not be captured yet."_s});
+            CaptureReport {Outcome::Unavailable, u"The screen may not be captured yet."_s});
     }
     m_busy = true;
     m_report = {};
@@ -173,7 +173,7 @@ QCoro::Task<> AppState::run(CaptureKind kind, Pending<CaptureReport>::Answer ans
         fail({u"Capture failed"_s, shot.error().message, failureSymbol});
     m_busy = false;
     answer(m_report);
-    Q_EMIT captureEnded();
+    Q_EMIT captureEnded(m_report);
 }
 
 QCoro::Task<Result<Shot>> AppState::take(CaptureKind kind)

@@ -69,7 +69,8 @@ public:
 Q_SIGNALS:
     void lastChanged();
     void captureBegan(); ///< isBusy() is true from now on.
-    void captureEnded(); ///< However it ended; isBusy() is false from now on.
+    void captureEnded(
+        const CaptureReport& report); ///< However it ended; isBusy() is false from now on.
     void panelRequested(); ///< Somebody started the program again.
     void settingsRequested(); ///< Its window is wanted.
     void hotkeysRegistered(); ///< Anew; it is known which ones the system refused.

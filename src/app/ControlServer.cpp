@@ -45,20 +45,11 @@ Result<Descriptor> lock(const QString& path)
     return file;
 }
 
-CaptureReport reportOf(const Result<CaptureReport>& result)
-{
-    if (result)
-        return *result;
-    return {.outcome = result.error().isCancelled() ? CaptureReport::Outcome::Cancelled
-                                                    : CaptureReport::Outcome::Failed,
-        .reason = result.error().message};
-}
-
 QCoro::Task<> answerLater(Pending<CaptureReport> pending, QPointer<ControlConnection> client)
 {
     const auto result = co_await pending;
     if (client)
-        client->answer(reportOf(result));
+        client->answer(Control::reportOf(result));
 }
 
 } // namespace
@@ -94,9 +85,9 @@ ControlServer::~ControlServer()
     // The lock goes with the members. Then ~QObject hangs up on those who wait for that.
 }
 
-void ControlServer::serve(Handlers handlers, std::chrono::milliseconds patience)
+void ControlServer::serve(Requests requests, std::chrono::milliseconds patience)
 {
-    m_handlers = std::move(handlers);
+    m_requests = std::move(requests);
     m_patience = patience;
     m_arrivals.setEnabled(true);
 }
@@ -137,31 +128,31 @@ void ControlServer::follow(ControlConnection& client, const Control::Request& re
     if (const auto* wanted = std::get_if<Control::Capture>(&request))
         return capture(client, *wanted);
     if (const auto* wanted = std::get_if<Control::Pin>(&request)) {
-        answerLater(m_handlers.pin(wanted->paths), &client);
+        answerLater(m_requests.pin(wanted->paths), &client);
         return;
     }
     if (const auto* wanted = std::get_if<Control::Edit>(&request)) {
-        answerLater(m_handlers.edit(wanted->paths), &client);
+        answerLater(m_requests.edit(wanted->paths), &client);
         return;
     }
     if (std::holds_alternative<Control::Shortcuts>(request))
-        return client.answer(Control::ShortcutReport {m_handlers.refusedShortcuts()});
+        return client.answer(Control::ShortcutReport {m_requests.refusedShortcuts()});
     const bool quits = std::holds_alternative<Control::Quit>(request);
     client.answer(Control::Accepted {},
         quits ? ControlConnection::Afterwards::Stay : ControlConnection::Afterwards::HangUp);
     if (quits)
-        m_handlers.quit();
+        m_requests.quit();
     else if (const auto* wanted = std::get_if<Control::Show>(&request))
-        m_handlers.show(wanted->what);
+        m_requests.show(wanted->what);
     else
-        m_handlers.panelRequested();
+        m_requests.showPanel();
 }
 
 void ControlServer::capture(ControlConnection& client, Control::Capture request)
 {
-    auto pending = m_handlers.capture(request.kind);
+    auto pending = m_requests.capture(request.kind);
     if (pending.await_ready())
-        client.answer(reportOf(pending.await_resume()));
+        client.answer(Control::reportOf(pending.await_resume()));
     else if (request.wait)
         answerLater(std::move(pending), &client);
     else

@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "base/Control.h"
+#include "app/Requests.h"
 #include "base/Descriptor.h"
-#include "base/Pending.h"
 
 #include <QObject>
 #include <QSocketNotifier>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 
 class ControlConnection;
@@ -20,16 +18,6 @@ class ControlConnection;
 /// nothing more is written to the user's folders.
 class ControlServer final : public QObject {
 public:
-    struct Handlers {
-        std::function<void()> panelRequested;
-        std::function<Pending<CaptureReport>(CaptureKind)> capture;
-        std::function<void()> quit; ///< Returns before the program ends.
-        std::function<Pending<CaptureReport>(QStringList)> pin {};
-        std::function<Pending<CaptureReport>(QStringList)> edit {};
-        std::function<void(Control::Show::What)> show {};
-        std::function<QList<CaptureKind>()> refusedShortcuts {};
-    };
-
     /// Takes the place of the resident program; fails with Error::Kind::Exists if another process
     /// has it. However that one ends, its place is free then. Clients that come now wait.
     static Result<std::unique_ptr<ControlServer>> listen(const Folders& folders);
@@ -37,7 +25,7 @@ public:
 
     /// From now on answers clients, who may take as long as given to send their request. A capture
     /// that nobody waits for counts as accepted unless its report is there at once.
-    void serve(Handlers handlers, std::chrono::milliseconds patience = std::chrono::seconds(5));
+    void serve(Requests requests, std::chrono::milliseconds patience = std::chrono::seconds(5));
 
 private:
     ControlServer(Descriptor lock, Descriptor socket, QString path);
@@ -51,7 +39,7 @@ private:
     Descriptor m_socket;
     QString m_path;
     QSocketNotifier m_arrivals;
-    Handlers m_handlers;
+    Requests m_requests;
     std::chrono::milliseconds m_patience {};
     int m_clients = 0;
 };

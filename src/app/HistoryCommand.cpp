@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/HistoryCommand.h"
 
+#include "app/FoundEntries.h"
 #include "cli/Print.h"
-#include "history/HistoryCatalogue.h"
 #include "history/HistoryFolder.h"
-#include "history/TextFiles.h"
 
 #include <QJsonArray>
 
@@ -15,7 +14,7 @@ namespace {
 
 struct Options {
     bool json = false;
-    std::optional<QString> search {};
+    QString search {};
 };
 
 Options optionsFrom(const QStringList& words)
@@ -27,25 +26,6 @@ Options optionsFrom(const QStringList& words)
         else if (words[i] == u"--json"_s)
             options.json = true;
     return options;
-}
-
-QHash<QString, QByteArray> textsOf(const QList<HistoryItem>& items, const TextFiles& files)
-{
-    QHash<QString, QByteArray> texts;
-    for (const auto& item : items)
-        if (const QString text = files.read(item.id); !text.isEmpty())
-            texts.insert(item.id, searchable(text));
-    return texts;
-}
-
-QJsonObject toJson(const HistoryItem& item, const QString& text)
-{
-    QJsonObject object {{u"id"_s, item.id}, {u"date"_s, item.time().toString(Qt::ISODateWithMs)},
-        {u"path"_s, item.path}, {u"width"_s, item.width}, {u"height"_s, item.height},
-        {u"scale"_s, item.scale}, {u"app"_s, item.app}, {u"saved"_s, !item.cached}};
-    if (!text.isEmpty())
-        object.insert(u"text"_s, text);
-    return object;
 }
 
 QString line(const HistoryItem& item)
@@ -68,20 +48,14 @@ int runHistoryCommand(const QStringList& words)
         return 2;
     }
     const TextFiles texts(folders.data);
-    HistoryCatalogue catalogue(DayCalendar::ofUser());
-    catalogue.setItems(*items);
     const Options options = optionsFrom(words);
-    if (options.search) {
-        catalogue.addTexts(textsOf(*items, texts));
-        catalogue.setQuery(*options.search);
-    }
     QJsonArray array;
     QString lines;
-    for (const HistoryItem* item : catalogue.shown())
+    for (const auto& item : findEntries(*items, texts, options.search))
         if (options.json)
-            array.append(toJson(*item, texts.read(item->id)));
+            array.append(QJsonObject::fromVariantMap(valuesOf(item, texts.read(item.id))));
         else
-            lines += line(*item);
+            lines += line(item);
     const auto printed = options.json ? print(QJsonValue(array)) : print(lines.toUtf8());
     if (!printed)
         complain(printed.error().message);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Rooms.h"
 
-#include "app/OpenFiles.h"
+#include "app/OpenPictures.h"
 #include "shortcuts/KeyCombo.h"
 
 #include <QSystemTrayIcon>
@@ -79,14 +79,15 @@ void Rooms::connectEditors()
 
 Pending<CaptureReport> Rooms::editFiles(const QStringList& paths)
 {
-    return openFiles(paths, [this](const FinishedCapture& picture) { m_editors.edit(picture); });
+    return openFiles(paths, editingIn(m_editors));
 }
 
 ShotActions Rooms::actions()
 {
     ShotActions actions = m_operations.actions();
     actions.pin = [this](const FinishedCapture& capture) { m_pins.show(capture.shot); };
-    actions.edit = [this](const FinishedCapture& capture) { m_editors.edit(capture); };
+    actions.edit
+        = [this](const FinishedCapture& capture) { std::ignore = m_editors.edit(capture); };
     return actions;
 }
 
@@ -108,7 +109,8 @@ CaptureStages Rooms::stages()
     stages.addToHistory = [this](const Shot& shot, const QByteArray& png, const QString& path) {
         return m_history.add(shot.image, shot.scale, path, shot.app, png);
     };
-    stages.openEditor = [this](const FinishedCapture& capture) { m_editors.edit(capture); };
+    stages.openEditor
+        = [this](const FinishedCapture& capture) { std::ignore = m_editors.edit(capture); };
     stages.showHistory = [this] { m_historyWindow.show(); };
     stages.showGallery = [this] { m_galleryWindow.show(); };
     stages.closePreviews = [this] { m_preview.closeAll(); };

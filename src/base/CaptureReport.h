@@ -5,13 +5,15 @@
 #include <QSize>
 #include <QString>
 
-/// How one capture ended, for whoever asked for it.
+/// How a capture, or what else was asked for, ended, for whoever asked.
 struct CaptureReport {
     enum class Outcome {
         Done,
         Cancelled, ///< By the user.
         Failed, ///< `reason` says why.
         Busy, ///< Another capture was running; this one never began.
+        Unavailable, ///< Cannot be done here; `reason` says why.
+        NotFound, ///< What it was to be done with does not exist; `reason` names it.
     };
 
     Outcome outcome = Outcome::Cancelled;

@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 
@@ -19,11 +20,13 @@ struct OutcomeInfo {
     int exitCode;
 };
 
-constexpr std::array<OutcomeInfo, 4> outcomes {{
+constexpr std::array<OutcomeInfo, 6> outcomes {{
     {CaptureReport::Outcome::Done, QLatin1String("done"), 0},
     {CaptureReport::Outcome::Cancelled, QLatin1String("cancelled"), 1},
     {CaptureReport::Outcome::Failed, QLatin1String("failed"), 2},
     {CaptureReport::Outcome::Busy, QLatin1String("busy"), 3},
+    {CaptureReport::Outcome::Unavailable, QLatin1String("unavailable"), 2},
+    {CaptureReport::Outcome::NotFound, QLatin1String("notFound"), 2},
 }};
 
 const OutcomeInfo& infoOf(CaptureReport::Outcome outcome)
@@ -127,7 +130,10 @@ Control::ShortcutReport shortcutsFrom(const QJsonArray& refused)
 
 struct AnswerWriter {
     QJsonObject operator()(Control::Accepted) const { return {{u"outcome"_s, accepted}}; }
-    QJsonObject operator()(const CaptureReport& report) const { return Control::toJson(report); }
+    QJsonObject operator()(const CaptureReport& report) const
+    {
+        return QJsonObject::fromVariantMap(Control::valuesOf(report));
+    }
     QJsonObject operator()(const Control::ShortcutReport& report) const
     {
         QJsonArray refused;
@@ -149,7 +155,7 @@ QByteArray Control::toLine(const Answer& answer)
     const QByteArray line = lineOf(std::visit(AnswerWriter(), answer));
     if (line.size() - 1 <= longestAnswer)
         return line;
-    return lineOf(toJson({.outcome = CaptureReport::Outcome::Failed,
+    return lineOf(AnswerWriter()(CaptureReport {.outcome = CaptureReport::Outcome::Failed,
         .reason = u"The answer is too long to be sent."_s}));
 }
 
@@ -200,24 +206,33 @@ Result<Control::Answer> Control::answerFrom(const QByteArray& line)
     return Error::failed(u"The line has no known outcome."_s);
 }
 
-QJsonObject Control::toJson(const CaptureReport& report)
+CaptureReport Control::reportOf(const Result<CaptureReport>& result)
 {
-    QJsonObject object {{u"outcome"_s, infoOf(report.outcome).key}};
-    const auto add = [&object](const QString& key, const QString& text) {
+    if (result)
+        return *result;
+    return {.outcome = result.error().isCancelled() ? CaptureReport::Outcome::Cancelled
+                                                    : CaptureReport::Outcome::Failed,
+        .reason = result.error().message};
+}
+
+QVariantMap Control::valuesOf(const CaptureReport& report)
+{
+    QVariantMap values {{u"outcome"_s, QString(infoOf(report.outcome).key)}};
+    const auto add = [&values](const QString& key, const QString& text) {
         if (!text.isEmpty())
-            object.insert(key, text);
+            values.insert(key, text);
     };
     add(u"path"_s, report.path);
     if (!report.size.isEmpty()) {
-        object.insert(u"width"_s, report.size.width());
-        object.insert(u"height"_s, report.size.height());
-        object.insert(u"scale"_s, report.scale);
+        values.insert(u"width"_s, report.size.width());
+        values.insert(u"height"_s, report.size.height());
+        values.insert(u"scale"_s, report.scale);
     }
     add(u"app"_s, report.app);
     add(u"historyId"_s, report.historyId);
     add(u"text"_s, report.text);
     add(u"reason"_s, report.reason);
-    return object;
+    return values;
 }
 
 int Control::exitCode(const CaptureReport& report)

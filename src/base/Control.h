@@ -6,8 +6,8 @@
 #include "base/CaptureReport.h"
 #include "base/Folders.h"
 
-#include <QJsonObject>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <variant>
 
@@ -58,9 +58,12 @@ QByteArray toLine(const Answer& answer);
 Result<Request> requestFrom(const QByteArray& line);
 Result<Answer> answerFrom(const QByteArray& line);
 
-/// {"outcome":"done","path":…,"width":…,"height":…,"scale":…,"app":…,"historyId":…,"text":…,
-/// "reason":…}; what is empty is left out.
-QJsonObject toJson(const CaptureReport& report);
+/// What an answer to a request tells; an error is a failure.
+CaptureReport reportOf(const Result<CaptureReport>& result);
+
+/// As programs are told of it, in JSON or over the session bus: outcome, path, width, height,
+/// scale, app, historyId, text, reason; what is empty is left out.
+QVariantMap valuesOf(const CaptureReport& report);
 
 /// What a program that waited for the report ends with: 0 done, 1 cancelled, 2 failed, 3 busy.
 int exitCode(const CaptureReport& report);

@@ -20,7 +20,7 @@ Result<void> printReport(const CaptureReport& report, bool json)
     else if (report.outcome == CaptureReport::Outcome::Busy)
         complain(u"Another capture is running."_s);
     if (json)
-        return print(QJsonValue(Control::toJson(report)));
+        return print(QJsonObject::fromVariantMap(Control::valuesOf(report)));
     if (!report.text.isEmpty())
         return print(report.text.toLocal8Bit() + '\n');
     return report.path.isEmpty() ? Result<void>() : print(report.path.toLocal8Bit() + '\n');

@@ -17,10 +17,12 @@ Editors::~Editors()
     qDeleteAll(m_windows);
 }
 
-void Editors::edit(const FinishedCapture& capture)
+Pending<void> Editors::edit(const FinishedCapture& capture)
 {
+    auto [shown, answer] = Pending<void>::ask();
+    const auto shared = std::make_shared<Pending<void>::Answer>(std::move(answer));
     const QPointer editors(this);
-    m_means.edits.find(capture).then([editors, capture](const auto& found) {
+    m_means.edits.find(capture).then([editors, capture, shared](const auto& found) {
         if (!editors)
             return;
         if (!found || !*found)
@@ -31,7 +33,9 @@ void Editors::edit(const FinishedCapture& capture)
                               .path = capture.path,
                               .historyId = capture.historyId},
                 {.annotations = (*found)->annotations});
+        (*shared)({});
     });
+    return std::move(shown);
 }
 
 void Editors::reopen(const KeptEdit& edit, std::unique_ptr<EditJournal> journal)

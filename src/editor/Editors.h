@@ -12,8 +12,9 @@ public:
     explicit Editors(EditorMeans means);
     ~Editors() override;
 
-    /// Shows a picture in an editor, with its annotations alive if it is known; soon.
-    void edit(const FinishedCapture& capture);
+    /// Shows a picture in an editor, with its annotations alive if it is known. Answers when its
+    /// window is there.
+    Pending<void> edit(const FinishedCapture& capture);
 
     /// What the program left behind when it ended last.
     void reopen(const KeptEdit& edit, std::unique_ptr<EditJournal> journal);

@@ -242,7 +242,7 @@ TEST_F(AppStateTest, listensToTheShortcutsAsTheyArePreferred)
 TEST_F(AppStateTest, asksForPermissionFirst)
 {
     platform.fakeCapture().isPermitted = false;
-    EXPECT_EQ(capture(CaptureKind::Screen).outcome, Outcome::Failed);
+    EXPECT_EQ(capture(CaptureKind::Screen).outcome, Outcome::Unavailable);
     EXPECT_THAT(steps, testing::ElementsAre(u"permission"_s, u"permission"_s))
         << "start and capture";
     EXPECT_FALSE(state().isBusy());
@@ -253,7 +253,7 @@ TEST_F(AppStateTest, offersOnlyWhatIsConnected)
     for (const auto kind : {CaptureKind::Region, CaptureKind::Delayed, CaptureKind::Text}) {
         EXPECT_FALSE(state().isAvailable(kind));
         const auto report = capture(kind);
-        EXPECT_EQ(report.outcome, Outcome::Failed);
+        EXPECT_EQ(report.outcome, Outcome::Unavailable);
         EXPECT_TRUE(report.reason.contains(u"not available"_s));
     }
     EXPECT_TRUE(steps.isEmpty());

@@ -73,7 +73,7 @@ protected:
         auto listening = ControlServer::listen(folders);
         ASSERT_TRUE(listening) << listening.error().message.toStdString();
         server = *std::move(listening);
-        server->serve({.panelRequested = [this] { ++panels; },
+        server->serve({.showPanel = [this] { ++panels; },
                           .capture =
                               [this](CaptureKind kind) {
                                   kinds.push_back(kind);

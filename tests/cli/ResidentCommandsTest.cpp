@@ -5,6 +5,7 @@
 #include "tests/desktop/Client.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -33,7 +34,7 @@ protected:
         auto listening = ControlServer::listen(Folders::ofUser());
         ASSERT_TRUE(listening) << listening.error().message.toStdString();
         server = *std::move(listening);
-        server->serve({.panelRequested = [] {},
+        server->serve({.showPanel = [] {},
             .capture =
                 [this](CaptureKind) {
                     auto [pending, toAnswer] = Pending<CaptureReport>::ask();
@@ -107,7 +108,8 @@ TEST_F(ResidentCommandsTest, captureEndsAsTheReportSays)
         CaptureReport::Outcome::Done, {}, u"/a.png"_s, {640, 480}, 2, u"Editor"_s, u"7"_s, {}};
     const auto finished = run(u"capture region --wait --json"_s);
     EXPECT_EQ(finished.output.count('\n'), 1);
-    EXPECT_EQ(QJsonDocument::fromJson(finished.output).object(), Control::toJson(*report));
+    EXPECT_EQ(QJsonDocument::fromJson(finished.output).object(),
+        QJsonObject::fromVariantMap(Control::valuesOf(*report)));
 }
 
 TEST_F(ResidentCommandsTest, captureReturnsWhenAcceptedUnlessItWaits)
