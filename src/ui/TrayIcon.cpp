@@ -4,6 +4,7 @@
 
 #include "widgets/Icons.h"
 
+#include <QCache>
 #include <QIconEngine>
 #include <QPainter>
 #include <QTextBoundaryFinder>
@@ -26,11 +27,24 @@ QImage drawn(const QString& emoji)
     painter.drawText(image.rect(), Qt::AlignCenter, emoji);
     painter.end();
     QRect inked;
-    for (int y = 0; y < side; ++y)
+    for (int y = 0; y < side; ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         for (int x = 0; x < side; ++x)
-            if (qAlpha(image.pixel(x, y)) > 0)
+            if (qAlpha(row[x]) > 0)
                 inked |= QRect(x, y, 1, 1);
+    }
     return image.copy(inked);
+}
+
+/// The few that a label goes to and fro between with every capture.
+QImage recalled(const QString& emoji)
+{
+    static QCache<QString, QImage> known(8);
+    if (const QImage* image = known.object(emoji))
+        return *image;
+    const QImage image = drawn(emoji);
+    known.insert(emoji, new QImage(image));
+    return image;
 }
 
 /// The characters as a reader counts them.
@@ -54,7 +68,7 @@ public:
         , m_onAccent(theme.onAccent)
     {
         for (const QString& part : parted(text))
-            m_emoji << drawn(part);
+            m_emoji << recalled(part);
     }
 
     QIconEngine* clone() const override { return new Engine(*this); }
