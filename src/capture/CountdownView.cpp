@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "capture/CountdownView.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/Motion.h"
 
 #include <QGuiApplication>
@@ -31,6 +32,7 @@ CountdownView::CountdownView(const Themes& themes, int remaining, QWidget* paren
     , m_before(remaining)
     , m_second([this](double) { update(); })
 {
+    Accessible::describe(*this, {QAccessible::Button, [this] { cancel(); }});
     setCursor(Qt::PointingHandCursor);
     m_change.setStartValue(0.0);
     m_change.setEndValue(1.0);
@@ -45,6 +47,8 @@ void CountdownView::setRemaining(int seconds)
 {
     m_before = std::exchange(m_remaining, seconds);
     setAccessibleName(u"%1, %2"_s.arg(seconds).arg(caption));
+    if (isVisible())
+        Accessible::announce(*this);
     m_change.start();
     if (!m_themes.current().reducedMotion)
         m_second.start();
@@ -113,12 +117,16 @@ void CountdownView::mousePressEvent(QMouseEvent* event)
 void CountdownView::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPoint moved = event->globalPosition().toPoint() - m_pressed;
-    if (moved.manhattanLength() < QGuiApplication::styleHints()->startDragDistance()) {
-        m_isCancelled = true;
-        update();
-        Q_EMIT clicked();
-    }
+    if (moved.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
+        cancel();
     event->ignore();
+}
+
+void CountdownView::cancel()
+{
+    m_isCancelled = true;
+    update();
+    Q_EMIT clicked();
 }
 
 void CountdownView::hideEvent(QHideEvent* event)

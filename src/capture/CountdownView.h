@@ -31,6 +31,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void cancel();
     void paintRing(QPainter& painter) const;
     void paintNumber(QPainter& painter, int number, double opacity) const;
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "capture/SymbolHero.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/Contrast.h"
 #include "widgets/Icons.h"
 #include "widgets/Motion.h"
@@ -22,6 +23,7 @@ SymbolHero::SymbolHero(const Themes& themes, QWidget* parent)
     : QWidget(parent)
     , m_themes(themes)
 {
+    Accessible::describeAsDecoration(*this);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_popUp.setStartValue(0.0);
     m_popUp.setEndValue(1.0);

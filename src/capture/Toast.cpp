@@ -3,8 +3,7 @@
 #include "capture/Toast.h"
 
 #include "capture/ToastView.h"
-
-#include <QAccessible>
+#include "widgets/Accessible.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,8 +20,7 @@ void Toast::show(const ToastMessage& message)
     m_panel = std::make_unique<FloatingPanel>(m_surroundings, spoken);
     m_panel->host(new ToastView(m_surroundings.themes, message));
     m_panel->presentBottomRight(Space::group);
-    QAccessibleEvent announcement(m_panel.get(), QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+    Accessible::announce(*m_panel);
     m_callLater(message.shown, this, [this, turn = ++m_turn] { close(turn); });
 }
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "editor/EditorNotice.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
 #include "widgets/TextLabel.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -40,8 +40,7 @@ void EditorNotice::tell(const QString& reason)
     m_reason->setText(u"Not closed, as the edit could not be kept: "_s + reason);
     setAccessibleName(m_reason->text());
     show();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Accessible::announce(*this);
 }
 
 void EditorNotice::paintEvent(QPaintEvent*)

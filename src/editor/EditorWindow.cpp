@@ -8,6 +8,7 @@
 #include "editor/EditorLayout.h"
 #include "editor/EditorNotice.h"
 #include "editor/EditorToolbar.h"
+#include "widgets/Accessible.h"
 #include "widgets/PanelPlacement.h"
 #include "widgets/TextLabel.h"
 
@@ -198,11 +199,18 @@ void EditorWindow::refresh()
     const CanvasDocument& document = m_canvas->model().document();
     m_commands[Command::Undo].setEnabled(document.canUndo());
     m_commands[Command::Redo].setEnabled(document.canRedo());
-    setStatus(EditorLayout::subtitle(document.base().size(), hasEdits()));
+    showStatus(EditorLayout::subtitle(document.base().size(), hasEdits()));
     m_isCopied = m_isSavedElsewhere = false;
 }
 
+/// What came of a command.
 void EditorWindow::setStatus(const QString& status)
+{
+    showStatus(status);
+    Accessible::announce(*m_subtitle);
+}
+
+void EditorWindow::showStatus(const QString& status)
 {
     m_subtitle->setText(status);
     setWindowTitle(status + u" — Pixmallow"_s);

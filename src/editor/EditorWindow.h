@@ -61,6 +61,7 @@ private:
     void adoptTheme();
 
     void refresh();
+    void showStatus(const QString& status);
     void setStatus(const QString& status); ///< Until the next refresh().
     void showMagnification();
     template <typename Change>

@@ -85,7 +85,9 @@ FlowChips::FlowChips(
             auto* chip = new Chip(themes, item);
             connect(chip, &QAbstractButton::clicked, this, [action, item] { action(item); });
             row->addWidget(chip);
-            if (!focusProxy())
+            if (focusProxy())
+                chip->setFocusPolicy(Qt::ClickFocus);
+            else
                 setFocusProxy(chip);
         }
         rows->addLayout(row);

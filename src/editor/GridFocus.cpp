@@ -28,7 +28,10 @@ bool GridFocus::move(QWidget& from, int key)
             nearest = each;
         }
     }
-    if (nearest)
+    if (nearest) {
+        from.setFocusPolicy(Qt::ClickFocus);
+        nearest->setFocusPolicy(Qt::StrongFocus);
         nearest->setFocus(Qt::TabFocusReason);
+    }
     return true;
 }

@@ -27,6 +27,7 @@ QWidget* emojiGrid(const Themes& themes, const StickerPickerView::Picked& picked
     int index = 0;
     for (const QString& emoji : Stickers::emoji()) {
         auto* cell = new EmojiCell(themes, emoji, picked);
+        cell->setFocusPolicy(index == 0 ? Qt::StrongFocus : Qt::ClickFocus);
         grid->addWidget(cell, index / columns, index % columns);
         if (index == 0)
             page->setFocusProxy(cell);
@@ -53,5 +54,5 @@ StickerPickerView::StickerPickerView(
     column->setSpacing(Space::inner);
     column->addWidget(m_tabs, 0, Qt::AlignHCenter);
     column->addWidget(m_pages);
-    setFocusProxy(m_pages->widget(0));
+    m_pages->widget(0)->setFocus(); // A proxy of the whole would keep Tab from the choice of pages.
 }

@@ -3,6 +3,7 @@
 #include "fun/AchievementCard.h"
 
 #include "fun/Emoji.h"
+#include "widgets/Accessible.h"
 #include "widgets/TextLines.h"
 
 #include <QLocale>
@@ -27,6 +28,7 @@ AchievementCard::AchievementCard(
     : Tile(themes, parent)
     , m_achievement(achievement)
 {
+    Accessible::describe(*this, {QAccessible::ListItem});
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -5,6 +5,7 @@
 #include "fun/AchievementCard.h"
 #include "fun/PetCard.h"
 #include "fun/StreakCalendarView.h"
+#include "widgets/Accessible.h"
 #include "widgets/TextLabel.h"
 
 #include <QGridLayout>
@@ -30,6 +31,8 @@ GalleryView::GalleryView(const Themes& themes, Fun& fun, QWidget* parent)
     , m_count(new TextLabel(themes, TextStyle::Title3))
     , m_grid(new QGridLayout)
 {
+    Accessible::describe(*this, {QAccessible::Grouping});
+    setAccessibleName(u"Pet and achievements"_s);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidgetResizable(true);

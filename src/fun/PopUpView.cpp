@@ -3,9 +3,12 @@
 #include "fun/PopUpView.h"
 
 #include "fun/Emoji.h"
+#include "widgets/Accessible.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,6 +22,10 @@ PopUpView::PopUpView(const Themes& themes, FunPopUp popUp, QWidget* parent)
     , m_themes(themes)
     , m_popUp(std::move(popUp))
 {
+    Accessible::describe(*this, {QAccessible::Button, [this] { Q_EMIT clicked(); }});
+    QStringList words {m_popUp.title, m_popUp.text, m_popUp.detail};
+    words.removeAll({});
+    setAccessibleName(words.join(u", "_s));
     setCursor(Qt::PointingHandCursor);
     connect(&themes, &Themes::changed, this, qOverload<>(&QWidget::update));
 }

@@ -4,8 +4,8 @@
 
 #include "fun/Confetti.h"
 #include "fun/PopUpView.h"
+#include "widgets/Accessible.h"
 
-#include <QAccessible>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -97,8 +97,7 @@ void PopUps::show(const FunPopUp& popUp)
     celebrate(panel->card());
     m_panel = std::move(panel);
     m_panel->raise(); // Above the paper.
-    QAccessibleEvent announcement(m_panel.get(), QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+    Accessible::announce(*m_panel);
     m_means.sounds.play(u"Sparkle"_s);
     m_means.wait(shown, this, [this, turn = ++m_turn] {
         if (turn == m_turn)

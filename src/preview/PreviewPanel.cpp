@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "preview/PreviewPanel.h"
 
+#include "widgets/Accessible.h"
+
 using namespace Qt::StringLiterals;
 
 PreviewPanel::PreviewPanel(const Surroundings& surroundings, const Prefs& prefs, Fun& fun,
@@ -32,6 +34,8 @@ void PreviewPanel::show(const FinishedCapture& capture, const QString& info)
     QObject::connect(panel, &FloatingPanel::escaped, panel, [this, panel] { close(panel); });
     panel->host(view);
     panel->presentBottomRight(Space::group);
+    panel->setAccessibleName(QObject::tr("Screenshot: %1").arg(info));
+    Accessible::announce(*panel);
     m_panels.push_back(panel);
 }
 

@@ -5,6 +5,7 @@
 #include "preview/EffectPalette.h"
 #include "preview/PreviewThumbnail.h"
 #include "preview/ReactionPill.h"
+#include "widgets/Accessible.h"
 #include "widgets/CardFrame.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
@@ -35,6 +36,7 @@ public:
     explicit HeaderSymbol(const Themes& themes)
         : m_themes(themes)
     {
+        Accessible::describeAsDecoration(*this);
         setFixedSize(Extent::smallSymbol, Extent::smallSymbol);
     }
 
@@ -91,6 +93,10 @@ PreviewView::PreviewView(
 void PreviewView::makeThumbnail()
 {
     m_thumbnail = new PreviewThumbnail(m_themes, m_content.capture.shot);
+    if (m_actions.edit)
+        Accessible::describe(*m_thumbnail, {QAccessible::Button, [this] { edit(); }});
+    else
+        Accessible::describe(*m_thumbnail, {QAccessible::Graphic});
     m_thumbnail->setAccessibleName(m_actions.edit ? u"Edit"_s : m_content.info);
     if (const auto effect = EffectBorder::effect(m_prefs.get(Prefs::keys.previewEffect)))
         m_thumbnail->setBorder(std::make_unique<EffectBorder>(*effect,
@@ -198,8 +204,10 @@ void PreviewView::setStatus(const QString& status)
     const QString hint
         = m_actions.edit ? u"Click to edit • Drag into any app"_s : u"Drag into any app"_s;
     m_hint->setText(status.isEmpty() ? hint : status);
-    if (!status.isEmpty())
-        m_statusSeen.start();
+    if (status.isEmpty())
+        return;
+    m_statusSeen.start();
+    Accessible::announce(*m_hint);
 }
 
 PreviewView::Hold PreviewView::hold()

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "update/UpdateView.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/Icons.h"
 #include "widgets/Tile.h"
+#include "widgets/style/FocusRing.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -28,6 +30,7 @@ public:
     explicit Symbol(const Themes& themes)
         : m_themes(themes)
     {
+        Accessible::describeAsDecoration(*this);
         setFixedSize(symbolSide, symbolSide);
     }
 
@@ -47,6 +50,9 @@ class Scrolled final : public QScrollArea {
 public:
     explicit Scrolled(QWidget* content)
     {
+        Accessible::describe(*this, {QAccessible::Grouping});
+        setAccessibleName(UpdateView::tr("What is new"));
+        FocusRing::wantedBy(*this);
         setWidget(content);
         setWidgetResizable(true);
         setFrameShape(NoFrame);
@@ -59,7 +65,9 @@ private:
     void resizeEvent(QResizeEvent* event) override
     {
         QScrollArea::resizeEvent(event);
-        setFixedHeight(std::min(mostOfNotes, widget()->heightForWidth(viewport()->width())));
+        const int all = widget()->heightForWidth(viewport()->width());
+        setFixedHeight(std::min(mostOfNotes, all));
+        setFocusPolicy(all > mostOfNotes ? Qt::StrongFocus : Qt::NoFocus);
     }
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/FloatingPanel.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/Motion.h"
 #include "widgets/PanelPlacement.h"
 
@@ -23,6 +24,7 @@ PanelPlacement::Screen screenUnderPointer()
 FloatingPanel::FloatingPanel(const Surroundings& surroundings, const QString& name)
     : m_surroundings(surroundings)
 {
+    Accessible::describe(*this, {QAccessible::Notification});
     setAccessibleName(name);
     setWindowTitle(name);
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);

@@ -50,10 +50,10 @@ OverflowRow::OverflowRow(const Themes& themes, QWidget* parent)
 
 void OverflowRow::add(QWidget* control, Gap gap, int rank, Entry entry)
 {
+    // The Tab key goes through them in this order.
+    m_more->setParent(nullptr);
     control->setParent(this);
-    if (!m_items.empty())
-        setTabOrder(m_items.back().control, control);
-    m_more->raise();
+    m_more->setParent(this);
     m_items.push_back({control, gap == Gap::Group ? Space::inner : 0, rank, std::move(entry)});
     updateGeometry();
 }

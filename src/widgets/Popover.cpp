@@ -66,8 +66,8 @@ void Popover::openAt(const QWidget& control)
 void Popover::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (!m_content->focusWidget())
-        m_content->setFocus(Qt::PopupFocusReason);
+    QWidget* const first = m_content->focusWidget();
+    (first ? first : m_content)->setFocus(Qt::PopupFocusReason);
 }
 
 void Popover::paintEvent(QPaintEvent*)

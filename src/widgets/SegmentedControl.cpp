@@ -105,6 +105,8 @@ SegmentedControl::SegmentedControl(const Themes& themes, const QString& name,
         const int index = int(m_buttons.size());
         auto* button = new SegmentButton(m_themes, segment, mode == Mode::ChooseOne);
         connect(button, &QAbstractButton::clicked, this, [this, index] { Q_EMIT chosen(index); });
+        connect(button, &QAbstractButton::toggled, button,
+            [button](bool on) { button->setFocusPolicy(on ? Qt::TabFocus : Qt::NoFocus); });
         row->addWidget(button);
         m_buttons << button;
     }

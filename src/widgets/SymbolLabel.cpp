@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/SymbolLabel.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/Icons.h"
 
 #include <QPainter>
@@ -11,6 +12,7 @@ SymbolLabel::SymbolLabel(const Themes& themes, QString symbol, Role role)
     , m_symbol(std::move(symbol))
     , m_role(role)
 {
+    Accessible::describeAsDecoration(*this);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(&m_themes, &Themes::changed, this, qOverload<>(&QWidget::update));
 }

@@ -3,8 +3,7 @@
 #include "editor/keeping/ReopenOffer.h"
 
 #include "editor/keeping/ReopenView.h"
-
-#include <QAccessible>
+#include "widgets/Accessible.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +23,7 @@ void ReopenOffer::show()
         return;
     make();
     m_panel->presentBottomRight(Space::group);
-    QAccessibleEvent announcement(m_panel.get(), QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+    Accessible::announce(*m_panel);
 }
 
 void ReopenOffer::make()

@@ -4,6 +4,7 @@
 
 #include "ui/panel/PetRow.h"
 #include "ui/panel/RecentStrip.h"
+#include "widgets/Accessible.h"
 #include "widgets/Enlarged.h"
 
 #include <QCoreApplication>
@@ -26,6 +27,8 @@ PanelView::PanelView(const Means& means)
     , m_pet(new PetRow(means.themes, means.fun))
     , m_recent(new RecentStrip(means.themes, means.history, means.recent))
 {
+    Accessible::describe(*this, {QAccessible::Grouping});
+    setAccessibleName(u"Pixmallow"_s);
     setFocusPolicy(Qt::StrongFocus);
     m_column->setContentsMargins(Space::related, Space::related, Space::related, Space::related);
     m_column->setSpacing(0);

@@ -7,6 +7,8 @@
 
 #include <QHBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 RecentStrip::RecentStrip(const Themes& themes, HistoryStore& history, RecentActions& actions)
     : m_themes(themes)
     , m_history(history)
@@ -33,6 +35,9 @@ void RecentStrip::refresh()
         connect(thumbnail, &RecentThumbnail::done, this, &RecentStrip::done);
         m_row->insertWidget(int(m_thumbnails.size()), thumbnail);
         m_thumbnails << thumbnail;
+        // Two of one minute and program differ by nothing else.
+        thumbnail->setAccessibleDescription(
+            u"%1, %2 × %3"_s.arg(m_thumbnails.size()).arg(item.width).arg(item.height));
         if (const auto known = m_history.thumbnail(item))
             thumbnail->setPicture(known->image);
     }

@@ -5,6 +5,7 @@
 #include "preview/EffectPalette.h"
 #include "preview/PreviewThumbnail.h"
 #include "ui/settings/SampleCapture.h"
+#include "widgets/Accessible.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -21,6 +22,8 @@ void addLivePreview(SettingsPage& page, RowGroup& tile)
     auto* picture = new PreviewThumbnail(page.themes(), {sampleCapture(), 2, {}, {}});
     picture->setFocusPolicy(Qt::NoFocus);
     picture->setAttribute(Qt::WA_TransparentForMouseEvents);
+    picture->unsetCursor();
+    Accessible::describeAsDecoration(*picture);
     auto* middle = new QWidget;
     auto* row = new QHBoxLayout(middle);
     row->setContentsMargins({});

@@ -24,6 +24,7 @@ SkinButton::SkinButton(const Themes& themes, const Skin& skin)
     , m_skin(skin)
 {
     setCheckable(true);
+    setAutoExclusive(true);
     setText(skin.name);
     setToolTip(skin.desc);
     setAccessibleName(skin.name);
@@ -55,6 +56,9 @@ void SkinButton::paintEvent(QPaintEvent*)
         StyleTools::paintBox(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5),
             Radius::cell + ringRoom, Qt::transparent,
             isChecked() ? worn.accentSymbol : worn.secondary, Extent::focusRing);
+    if (isChecked() && hasFocus())
+        StyleTools::paintBox(
+            painter, box, Radius::cell, Qt::transparent, own.text, Extent::focusRing);
 
     QFont emoji = own.font(TextStyle::Body);
     emoji.setPixelSize(emojiSize);

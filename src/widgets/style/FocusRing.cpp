@@ -12,8 +12,12 @@
 
 namespace {
 
+constexpr const char* wanted = "wantsFocusRing";
+
 bool needsRing(const QWidget* widget)
 {
+    if (widget && widget->property(wanted).toBool())
+        return true;
     const auto* choice = qobject_cast<const QComboBox*>(widget);
     return (choice && !choice->isEditable()) || qobject_cast<const QPushButton*>(widget)
         || qobject_cast<const QToolButton*>(widget) || qobject_cast<const QCheckBox*>(widget)
@@ -26,6 +30,11 @@ FocusRing::FocusRing()
 {
     connect(qApp, &QApplication::focusChanged, this,
         [this](QWidget*, QWidget* focused) { follow(focused); });
+}
+
+void FocusRing::wantedBy(QWidget& widget)
+{
+    widget.setProperty(wanted, true);
 }
 
 FocusRing::~FocusRing()

@@ -14,6 +14,9 @@ public:
     FocusRing();
     ~FocusRing() override;
 
+    /// For those of our own that do not paint one. Around what scrolls it is inside of the edge.
+    static void wantedBy(QWidget& widget);
+
 private:
     void follow(QWidget* focused);
 

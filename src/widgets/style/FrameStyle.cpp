@@ -30,6 +30,12 @@ void FrameStyle::paintItem(QPainter& painter, const QStyleOption& option, const 
         StyleTools::paintBox(painter, option.rect, Radius::chip, theme.accent);
     else if (has(option.state, QStyle::State_MouseOver))
         StyleTools::paintBox(painter, option.rect, Radius::chip, theme.fillHover);
+    if (has(option.state, QStyle::State_HasFocus)
+        && has(option.state, QStyle::State_KeyboardFocusChange))
+        StyleTools::paintBox(painter, QRectF(option.rect).adjusted(2, 2, -2, -2), Radius::chip - 2,
+            Qt::transparent,
+            has(option.state, QStyle::State_Selected) ? theme.onAccent : theme.accentSymbol,
+            Extent::focusRing);
 }
 
 QSize FrameStyle::itemSize(QSize contents)

@@ -46,9 +46,18 @@ QColor groundIn(const QWidget* frame)
     return area->viewport()->palette().color(area->viewport()->backgroundRole());
 }
 
+/// It may fill its window, so the ring has to be inside.
+bool isAroundScrolled(const QWidget* ring)
+{
+    const auto* frame = qobject_cast<const QFocusFrame*>(ring);
+    return frame && qobject_cast<const QAbstractScrollArea*>(frame->widget());
+}
+
 /// The corner radius of what a focus ring is around.
 double cornersIn(const QWidget* ring)
 {
+    if (isAroundScrolled(ring))
+        return 0;
     const auto* frame = qobject_cast<const QFocusFrame*>(ring);
     const auto* toggle = frame ? qobject_cast<const Switch*>(frame->widget()) : nullptr;
     return toggle ? toggle->height() / 2.0 : Radius::cell;
@@ -284,7 +293,7 @@ int HouseStyle::pixelMetric(
         return 2;
     case PM_FocusFrameHMargin:
     case PM_FocusFrameVMargin:
-        return int(2 * Extent::focusRing);
+        return isAroundScrolled(widget) ? 0 : int(2 * Extent::focusRing);
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
