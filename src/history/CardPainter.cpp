@@ -89,6 +89,12 @@ void CardPainter::paintWell(QPainter& painter, const Card& card, QRectF well) co
     const double inset = isRinged ? -wide / 2 : wide / 2;
     painter.drawRoundedRect(well.adjusted(inset, inset, -inset, -inset), Radius::thumbnail - inset,
         Radius::thumbnail - inset);
+    if (card.hasFocus && card.isSelected) {
+        constexpr double away = Extent::focusRing + 1.5 * Extent::hairline;
+        painter.setPen(QPen(m_theme.text, Extent::hairline));
+        painter.drawRoundedRect(well.adjusted(-away, -away, away, away), Radius::thumbnail + away,
+            Radius::thumbnail + away);
+    }
 }
 
 void CardPainter::paintFound(QPainter& painter, QRect box, const QString& found) const

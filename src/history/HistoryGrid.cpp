@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "history/HistoryGrid.h"
 
+#include "history/AccessibleCards.h"
 #include "history/CardText.h"
+#include "widgets/Accessible.h"
 #include "widgets/Motion.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -30,6 +31,7 @@ HistoryGrid::HistoryGrid(const Themes& themes, HistoryStore& store, HistoryCatal
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
+    Accessible::describe(*this, {QAccessible::List, {}, std::make_shared<AccessibleCards>(*this)});
     setAccessibleName(u"Captures"_s);
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -66,8 +68,9 @@ void HistoryGrid::refresh()
         m_selection.follow(ids());
     layOut();
     returnToAnchor();
+    Accessible::partsChanged(*this);
     if (m_selection.current() != currentBefore)
-        tellCurrent();
+        Accessible::currentPartChanged(*this);
     viewport()->update();
 }
 
@@ -241,7 +244,7 @@ void HistoryGrid::choose(int index, CardSelection::How how)
 {
     m_selection.choose(ids(), index, how);
     bringIntoView(index);
-    tellCurrent();
+    Accessible::currentPartChanged(*this);
     viewport()->update();
 }
 
@@ -278,23 +281,4 @@ void HistoryGrid::hover(int index)
         m_hoverActions->setGeometry(place);
     }
     m_hoverActions->setVisible(isOver);
-}
-
-/// To those who hear what others see.
-void HistoryGrid::tellCurrent()
-{
-    const int current = m_selection.current();
-    if (current < 0) {
-        setAccessibleDescription({});
-        return;
-    }
-    const HistoryItem& shown = item(current);
-    const auto& calendar = m_catalogue.calendar();
-    setAccessibleDescription(
-        u"%1, %2, %3; %4 of %5"_s
-            .arg(shown.app, calendar.title(calendar.day(shown)), calendar.time(shown))
-            .arg(current + 1)
-            .arg(m_layout.count()));
-    QAccessibleEvent told(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&told);
 }

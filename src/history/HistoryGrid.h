@@ -55,6 +55,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    friend class AccessibleCards;
+
     void layOut();
     void anchor();
     void returnToAnchor();
@@ -70,7 +72,6 @@ private:
     void choose(int index, CardSelection::How how);
     void bringIntoView(int index);
     void hover(int index);
-    void tellCurrent();
 
     const Themes& m_themes;
     HistoryStore& m_store;

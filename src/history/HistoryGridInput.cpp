@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "history/HistoryGrid.h"
 
+#include "widgets/Accessible.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -134,6 +136,8 @@ void HistoryGrid::focusInEvent(QFocusEvent* event)
         || event->reason() == Qt::BacktabFocusReason || event->reason() == Qt::OtherFocusReason;
     if (isByKey && m_selection.current() < 0 && m_layout.count() > 0)
         choose(0, CardSelection::How::Alone);
+    else
+        Accessible::currentPartChanged(*this);
     viewport()->update();
 }
 

@@ -77,8 +77,11 @@ QLayout* HistoryView::bar()
     m_search->setPlaceholderText(u"Search app, file or date"_s);
     m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
-    m_search->addAction(
-        Icons::icon(u"magnifyingglass"_s, theme.secondary), QLineEdit::LeadingPosition);
+    m_search
+        ->addAction(Icons::icon(u"magnifyingglass"_s, theme.secondary), QLineEdit::LeadingPosition)
+        ->setText(u"Search"_s);
+    if (auto* clear = m_search->findChild<QAction*>(u"_q_qlineeditclearaction"_s))
+        clear->setText(u"Clear Search"_s); // The toolkit leaves it nameless.
     m_search->setMinimumHeight(Extent::toolbar);
     m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, [this](const QString& query) {
