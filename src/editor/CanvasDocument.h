@@ -32,6 +32,7 @@ public:
     void setClean() { m_dirty = false; }
 
     const Annotation* selected() const; ///< Null if none is.
+    std::optional<std::size_t> selectedIndex() const { return m_selected; }
     void select(std::optional<std::size_t> index) { m_selected = index; }
     void selectTopmost(QPointF at, double tolerance); ///< None if there is none.
 

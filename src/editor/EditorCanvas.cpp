@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "editor/EditorCanvas.h"
 
+#include "editor/AccessibleMarks.h"
 #include "editor/AnnotationKind.h"
+#include "editor/CanvasKeys.h"
 #include "editor/TextField.h"
 #include "editor/Tools.h"
 #include "widgets/CardFrame.h"
+#include "widgets/style/FocusRing.h"
 
 #include <QGestureEvent>
 #include <QMouseEvent>
@@ -40,6 +43,9 @@ EditorCanvas::EditorCanvas(const QImage& image, QWidget* parent)
     , m_model(image)
     , m_shownTool(m_model.tool())
 {
+    Accessible::describe(
+        *this, {QAccessible::Canvas, {}, std::make_shared<AccessibleMarks>(*this)});
+    FocusRing::wantedBy(*this);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -47,7 +53,10 @@ EditorCanvas::EditorCanvas(const QImage& image, QWidget* parent)
     m_still.setSingleShot(true);
     m_still.setInterval(stillness);
     m_still.callOnTimeout(viewport(), qOverload<>(&QWidget::update));
-    m_model.document().setOnChange([this] { Q_EMIT changed(); });
+    m_model.document().setOnChange([this] {
+        Accessible::partsChanged(*this);
+        Q_EMIT changed();
+    });
     m_model.setOnSticker([this] { Q_EMIT stickerPlaced(); });
     m_view.setPicture(std::as_const(m_model).document().base().size());
     placeView();
@@ -103,6 +112,9 @@ void EditorCanvas::refresh()
         viewport()->update(m_decorations.region(m_view) + decorations.region(m_view));
         m_decorations = std::move(decorations);
     }
+    if (const auto selected = document.selectedIndex();
+        std::exchange(m_toldSelected, selected) != selected)
+        Accessible::currentPartChanged(*this);
     showTyping();
     if (m_shownTool != m_model.tool()) {
         m_shownTool = m_model.tool();
@@ -304,6 +316,11 @@ void EditorCanvas::keyPressEvent(QKeyEvent* event)
         m_spaceHeld = true;
         return updateCursor();
     }
+    const QRectF picture({}, m_view.picture());
+    const QRectF inSight(m_view.toPicture(QPointF()),
+        m_view.toPicture(QPointF(viewport()->width(), viewport()->height())));
+    if (CanvasKeys::take(m_model, event->key(), event->modifiers(), inSight & picture))
+        return refresh();
     const auto answered = m_model.key(event->key(), event->modifiers(), event->text());
     refresh();
     if (answered == CanvasModel::KeyAnswer::Close)

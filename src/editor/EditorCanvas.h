@@ -80,6 +80,7 @@ private:
     CanvasDecorations m_decorations;
     QRegion m_damage; ///< Not yet drawn; pixels of the picture.
     QTimer m_still; ///< Runs while the view moves, when painting has to be fast.
+    std::optional<std::size_t> m_toldSelected; ///< To those who hear what others see.
     Tool m_shownTool;
     QPointer<TextField> m_field;
     bool m_spaceHeld = false;
