@@ -51,9 +51,9 @@ void UpdatePanel::install(const UpdateInfo& info)
 {
     m_installing = true;
     m_view->setInstalling(true);
-    const auto tell = [this](const QString& stage) {
-        if (m_view)
-            m_view->setStage(stage);
+    const auto tell = [panel = QPointer(this)](const QString& stage) {
+        if (panel && panel->m_view)
+            panel->m_view->setStage(stage);
     };
     m_updater.install(info, tell).then([panel = QPointer(this)](const Result<void>& installed) {
         if (!panel)

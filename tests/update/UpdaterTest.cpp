@@ -241,7 +241,7 @@ TEST_F(UpdaterTest, itsPanelSkipsInstallsAndCancels)
     FakeAppearance appearance;
     Skins skins(prefs, appearance);
     const Themes themes(skins, appearance);
-    UpdatePanel panel(themes, updater);
+    auto panel = std::make_unique<UpdatePanel>(themes, updater);
     const auto view = []() -> UpdateView* {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         for (QWidget* window : QApplication::topLevelWidgets())
@@ -270,6 +270,14 @@ TEST_F(UpdaterTest, itsPanelSkipsInstallsAndCancels)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     view()->close();
     EXPECT_FALSE(view());
+
+    workspace.opened.clear();
+    check();
+    Q_EMIT view()->installWanted();
+    while (workspace.opened.isEmpty())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    panel.reset(); // Before it is told how that ended.
+    QCoreApplication::processEvents();
 }
 
 TEST_F(UpdaterTest, believesOnlyCertificatesThatItKnows)
