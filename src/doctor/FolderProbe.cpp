@@ -4,8 +4,9 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <QTemporaryFile>
+
+#include <sys/statvfs.h>
 
 using namespace Qt::StringLiterals;
 
@@ -41,5 +42,11 @@ QString FolderProbe::problemOf(const QString& path)
 
 qint64 FolderProbe::freeBytes(const QString& path)
 {
-    return QStorageInfo(nearest(path).absoluteFilePath()).bytesAvailable();
+    // Not QStorageInfo: it looks for the mount, which whoever lives in a folder of another system
+    // does not see.
+    struct statvfs system { };
+    const QByteArray there = QFile::encodeName(nearest(path).absoluteFilePath());
+    if (statvfs(there.constData(), &system) != 0)
+        return -1;
+    return qint64(system.f_bavail) * qint64(system.f_frsize);
 }

@@ -26,8 +26,8 @@ QSslConfiguration TestServer::selfSigned(const QString& folder)
     const QString key = folder + u"/key.pem"_s, certificate = folder + u"/certificate.pem"_s;
     QProcess::execute(u"openssl"_s,
         {u"req"_s, u"-x509"_s, u"-newkey"_s, u"ec"_s, u"-pkeyopt"_s, u"ec_paramgen_curve:P-256"_s,
-            u"-nodes"_s, u"-subj"_s, u"/CN=localhost"_s, u"-addext"_s,
-            u"subjectAltName=DNS:localhost"_s, u"-keyout"_s, key, u"-out"_s, certificate});
+            u"-nodes"_s, u"-subj"_s, u"/CN=127.0.0.1"_s, u"-addext"_s,
+            u"subjectAltName=IP:127.0.0.1"_s, u"-keyout"_s, key, u"-out"_s, certificate});
     QFile keyFile(key);
     const auto certificates = QSslCertificate::fromPath(certificate);
     if (certificates.isEmpty() || !keyFile.open(QIODevice::ReadOnly))

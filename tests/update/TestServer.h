@@ -23,7 +23,7 @@ public:
     QList<QByteArray> requests; ///< Their texts, headers included.
 
     /// @param host one that means this computer
-    QString address(const QString& path, const QString& host = QStringLiteral("localhost")) const;
+    QString address(const QString& path, const QString& host = QStringLiteral("127.0.0.1")) const;
 
     /// Signs for itself; null where there is no openssl.
     static QSslConfiguration selfSigned(const QString& folder);
