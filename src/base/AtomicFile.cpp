@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/AtomicFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -239,6 +240,14 @@ bool isUnfinishedFile(QStringView name)
 {
     return name.startsWith(QLatin1String(hiddenPrefix))
         && name.endsWith(QLatin1String(hiddenSuffix));
+}
+
+void removeUnfinishedFiles(const QString& folder)
+{
+    const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden);
+    for (const QString& name : names)
+        if (isUnfinishedFile(name))
+            QFile::remove(folder + u'/' + name);
 }
 
 Result<void> writeFile(const QString& path, const QByteArray& content, AtomicFile::Options options)

@@ -60,5 +60,8 @@ private:
 /// which nobody is writing.
 bool isUnfinishedFile(QStringView name);
 
+/// Removes those from such a folder.
+void removeUnfinishedFiles(const QString& folder);
+
 /// All of a file at once.
 Result<void> writeFile(const QString& path, const QByteArray& content, AtomicFile::Options options);

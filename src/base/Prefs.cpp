@@ -207,6 +207,7 @@ Result<void> Prefs::flush()
     const auto content = recoveredContent();
     if (!content)
         return content.error();
+    removeUnfinishedFiles(m_folder); // Of whoever was killed while holding the lock.
     const auto values = withUnsaved(*content);
     const auto written = writeFile(m_path, QJsonDocument(values).toJson(),
         {AtomicFile::Existing::Replace, AtomicFile::Access::OwnerOnly});

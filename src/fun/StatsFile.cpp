@@ -52,6 +52,7 @@ Result<void> StatsFile::write(const QByteArray& text)
 {
     if (const auto usable = ensurePrivateFolder(m_folder); !usable)
         return usable;
+    removeUnfinishedFiles(m_folder); // Nobody else writes there.
     if (!m_isOurs && QFileInfo::exists(m_path))
         if (const auto moved = setAside(m_path); !moved)
             return moved;

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "tests/Soak.h"
+#include "tests/campaign/Footprint.h"
+#include "tests/campaign/Outcome.h"
+#include "tests/resident/ResidentDesktop.h"
+
+#include <QDirIterator>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+DesktopOptions smallDesktop()
+{
+    return {.size = {640, 480}, .compositor = Compositor::Picom, .tray = true};
+}
+
+constexpr qint64 mebibyte = 1 << 20;
+constexpr QRect area(100, 120, 300, 200);
+constexpr int stretches = 40; ///< Of captures with the same preferences.
+constexpr int samplesInAStretch = 10;
+
+/// One process that takes captures of the screen and of areas, every fourth stretch with the card.
+class ManyCapturesTest : public ResidentDesktop<smallDesktop> {
+protected:
+    void start()
+    {
+        QImage ground(640, 480, QImage::Format_RGB32);
+        ground.fill(QColor(150, 160, 170));
+        desktop().setRootPicture(ground);
+        auto started = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
+        ASSERT_TRUE(started) << started.error().message.toStdString();
+        resident = *std::move(started);
+        ASSERT_TRUE(waitFor([] {
+            const QString runtime = desktop().environment().value(u"XDG_RUNTIME_DIR"_s);
+            return QFile::exists(runtime + u"/pixmallow/control"_s);
+        }));
+    }
+
+    void take(int number)
+    {
+        const bool isArea = number % 25 == 24;
+        const auto report = isArea ? captureArea() : capture(u"screen"_s);
+        ASSERT_EQ(report[u"outcome"_s], u"done"_s) << number;
+        const QSize size = isArea ? area.size() : QSize(640, 480);
+        ASSERT_EQ(QSize(report[u"width"_s].toInt(), report[u"height"_s].toInt()), size) << number;
+        const QString path = report[u"path"_s].toString();
+        if (number % 50 == 49) { // To read each of them would take longer than to take them.
+            ASSERT_EQ(QImage(path).size(), size) << number;
+        }
+    }
+
+    /// Waits for the screen to darken, which no flash does, then drags over the area.
+    QJsonObject captureArea()
+    {
+        const auto isDark = [] {
+            return qGray(desktop().rootPixels({2, 2, 1, 1}).pixel(0, 0)) < 100;
+        };
+        auto asking = desktop().launch(
+            u"pixmallow"_s, {u"capture"_s, u"region"_s, u"--wait"_s, u"--json"_s});
+        EXPECT_TRUE(asking && waitFor(isDark));
+        desktop().drag(area.topLeft(), area.topLeft() + QPoint(area.width(), area.height()), 5ms);
+        EXPECT_TRUE(asking && (*asking)->waitForEnd());
+        return QJsonDocument::fromJson((*asking)->output()).object();
+    }
+
+    Footprint footprint() const { return Footprint::of(resident->pid(), desktop().connection()); }
+
+    /// Files that the program keeps for itself: what only grows shows in their number.
+    static qsizetype filesKept()
+    {
+        qsizetype count = 0;
+        for (const char* folder : {"/.cache", "/.local", "/.config", "/../runtime"})
+            for (QDirIterator it(desktop().home() + QLatin1String(folder),
+                     QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+                 it.hasNext(); it.next())
+                ++count;
+        return count;
+    }
+
+    std::unique_ptr<Client> resident;
+};
+
+QByteArray preferences(bool withCard)
+{
+    const QByteArray after = withCard ? "preview" : "none";
+    return R"({"welcomed":true,"afterCapture":")" + after + R"("})";
+}
+
+QString inMebibytes(qint64 bytes)
+{
+    return QString::number(double(bytes) / double(mebibyte), 'f', 1);
+}
+
+} // namespace
+
+TEST_F(ManyCapturesTest, takeNoMoreThanAFew)
+{
+    Outcome outcome(u"Captures in one process"_s);
+    setPreferences(preferences(false));
+    start();
+    const int captures = soaked(80), stretch = captures / stretches;
+    std::vector<Footprint> samples;
+    qsizetype filesMidway = 0;
+    for (int i = 0; i < captures; ++i) {
+        if (i % stretch == 0)
+            setPreferences(preferences(i / stretch % 4 == 0));
+        ASSERT_NO_FATAL_FAILURE(take(i));
+        ++outcome.done;
+        if (i % std::max(1, stretch / samplesInAStretch) == 0)
+            samples.push_back(footprint());
+        if (i == captures / 2)
+            filesMidway = filesKept();
+    }
+
+    const auto quarter = [&](int which) {
+        const auto length = std::ssize(samples) / 4;
+        const auto begin = samples.begin() + which * length;
+        return Footprint::median({begin, begin + length});
+    };
+    const Footprint second = quarter(1), last = quarter(3);
+    outcome.details = u"medians of the second and the last quarter: resident %1 and %2 MiB, its "
+                      "share %3 and %4 MiB, descriptors %5 and %6, threads %7 and %8, resources of "
+                      "the X server %9 and %10, pixmaps %11 and %12 MiB"_s
+                          .arg(inMebibytes(second.memory), inMebibytes(last.memory),
+                              inMebibytes(second.share), inMebibytes(last.share))
+                          .arg(second.files)
+                          .arg(last.files)
+                          .arg(second.threads)
+                          .arg(last.threads)
+                          .arg(second.resources)
+                          .arg(last.resources)
+                          .arg(inMebibytes(second.pixmaps), inMebibytes(last.pixmaps));
+    // A leak of 1 KiB in each capture would be 5 MiB between the middles of those quarters of
+    // 10,000; in a short run caches are still filling.
+    EXPECT_LT(last.memory, second.memory + 5 * mebibyte) << outcome.details.toStdString();
+    EXPECT_LT(last.share, second.share + 5 * mebibyte) << outcome.details.toStdString();
+    EXPECT_LE(last.files, second.files + 2) << outcome.details.toStdString();
+    EXPECT_LE(last.threads, second.threads + 4) << outcome.details.toStdString();
+    EXPECT_LE(last.resources, second.resources + 20) << outcome.details.toStdString();
+    EXPECT_LE(last.pixmaps, second.pixmaps + 4 * mebibyte) << outcome.details.toStdString();
+    EXPECT_EQ(saved().size(), captures);
+    // Thumbnails and texts: at most as many as the history has entries.
+    EXPECT_LE(filesKept(), filesMidway + 2 * 200) << "what is kept grows";
+}
