@@ -3,6 +3,7 @@
 #include "editor/keeping/KeptEdits.h"
 
 #include "tests/KilledProcess.h"
+#include "tests/campaign/Outcome.h"
 #include "tests/editor/keeping/SampleEdits.h"
 #include "tests/history/HistoryPlace.h"
 
@@ -102,11 +103,12 @@ bool shows(const KeptEdit& edit, const CanvasDocument& document)
 
 TEST(JournalCrashTest, bringsTheLastChangesBackAfterBeingKilled)
 {
+    Outcome outcome(u"Kills while pictures are edited"_s);
     const QTemporaryDir root;
     std::mt19937 random(2);
-    for (int round = 0; round < soaked(20); ++round) {
+    for (int round = 0; round < soaked(20); ++round, ++outcome.done) {
         const auto seed = unsigned(random());
-        SCOPED_TRACE(round);
+        SCOPED_TRACE(testing::Message() << "round " << round << ", seed " << seed);
         const int sure = changesOfKilled(root.path(), seed, random() % 150'000);
         const auto edit = reopened(root.path());
         ASSERT_TRUE(edit);
