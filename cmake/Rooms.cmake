@@ -21,7 +21,8 @@ function(pixmallow_room room)
 endfunction()
 
 # pixmallow_test(base/PngWriterTest LINKS ...): one test program from tests/base/PngWriterTest.cpp,
-# its cases known to ctest by name, and as "desktop" if they need a virtual one.
+# its cases known to ctest by name, as "desktop" if they need a virtual one, and as "campaign" if
+# they make a row of docs/reliability.md.
 function(pixmallow_test path)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINKS;PROPERTIES")
     get_filename_component(target ${path} NAME)
@@ -33,7 +34,13 @@ function(pixmallow_test path)
     endif()
     pixmallow_compile_options(${target})
     if("desktop_main" IN_LIST ARG_LINKS)
-        list(APPEND ARG_PROPERTIES LABELS desktop)
+        list(APPEND labels desktop)
+    endif()
+    if("campaign" IN_LIST ARG_LINKS)
+        list(APPEND labels campaign)
+    endif()
+    if(labels)
+        list(APPEND ARG_PROPERTIES LABELS "${labels}")
     endif()
     gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 PROPERTIES ${ARG_PROPERTIES})
 endfunction()
