@@ -141,9 +141,9 @@ finish_captures() {
 }
 
 soak_rounds() {
-    ready release
+    ready dev
     PIXMALLOW_SOAK=20 measure "${soak_titles[rounds]}" tested "${soak_titles[rounds]}" \
-        --preset release --label-exclude 'campaign|desktop' --timeout 3600
+        --preset dev --label-exclude 'campaign|desktop' --timeout 3600
 }
 
 soak_desktops() {
