@@ -7,6 +7,8 @@
 #include "app/Rooms.h"
 #include "app/TerminationSignals.h"
 #include "app/TextCommand.h"
+#include "app/dbus/BusService.h"
+#include "base/ApplicationId.h"
 #include "base/ControlClient.h"
 #include "capture/Files.h"
 #include "ui/Surfaces.h"
@@ -81,7 +83,9 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     });
     QObject::connect(
         qApp, &QGuiApplication::commitDataRequest, qApp, [&rooms] { rooms.editors().closeNow(); });
-    server->serve(Requests::to(state, rooms));
+    const auto requests = Requests::to(state, rooms);
+    server->serve(requests);
+    const BusService bus({requests, state, rooms.history(), folders.data});
     const int code = QApplication::exec();
     rooms.cancelQuestions();
     finishCapture(state);
@@ -131,7 +135,7 @@ int main(int argc, char** argv)
         return runDoctorCommand(argc, argv);
     QApplication application(argc, argv);
     QGuiApplication::setApplicationDisplayName(u"Pixmallow"_s);
-    QGuiApplication::setDesktopFileName(u"pixmallow"_s);
+    QGuiApplication::setDesktopFileName(applicationId());
     QGuiApplication::setWindowIcon(QIcon(u":/pixmallow.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false);
 

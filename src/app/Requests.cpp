@@ -74,6 +74,11 @@ Requests Requests::to(AppState& state, Rooms& rooms)
 {
     return {
         .showPanel = [&state] { Q_EMIT state.panelRequested(); },
+        .activate =
+            [&state, &rooms] {
+                if (!rooms.welcome())
+                    Q_EMIT state.panelRequested();
+            },
         .capture = [&state](CaptureKind kind) { return state.captureAndReport(kind); },
         .quit = [] { QCoreApplication::quit(); },
         .pin = [&rooms](const QStringList& paths) { return openFiles(paths, pinning(rooms)); },

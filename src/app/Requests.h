@@ -19,6 +19,8 @@ struct Requests {
     using Report = Pending<CaptureReport>;
 
     std::function<void()> showPanel;
+    std::function<void()>
+        activate {}; ///< The user wants to see the program, started just now or not.
     std::function<Report(CaptureKind)> capture;
     std::function<void()> quit; ///< Returns before the program ends.
     std::function<Report(QStringList paths)> pin {};

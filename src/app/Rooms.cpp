@@ -138,12 +138,13 @@ void Rooms::showUpdate()
         m_updatePanel.show(*found);
 }
 
-void Rooms::welcome()
+bool Rooms::welcome()
 {
     if (m_prefs.get(Prefs::keys.welcomed))
-        return;
+        return false;
     m_prefs.set(Prefs::keys.welcomed, true);
     m_permission.show();
+    return true;
 }
 
 void Rooms::cancelQuestions()

@@ -51,8 +51,8 @@ public:
     void captureBegins();
     void captureEnded();
 
-    /// Shows a newcomer, once, where the program is and how to begin.
-    void welcome();
+    /// Shows a newcomer, once, where the program is and how to begin. Whether it did.
+    bool welcome();
 
     /// Offers edits that were left behind when the program ended last.
     void offerLeftBehind() { m_reopenOffer.show(); }

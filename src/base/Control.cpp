@@ -171,9 +171,8 @@ Result<Control::Request> Control::requestFrom(const QByteArray& line)
         return Request(Quit {});
     if (command == shortcuts)
         return Request(Shortcuts {});
-    for (const auto& [what, name] : windows)
-        if (command == name)
-            return Request(Show {what});
+    if (const auto window = windowNamed(command.toString()))
+        return Request(Show {*window});
     if (command == u"pin"_s)
         return pathsFrom<Pin>(object->value(u"paths").toArray());
     if (command == u"edit"_s)
@@ -233,6 +232,14 @@ QVariantMap Control::valuesOf(const CaptureReport& report)
     add(u"text"_s, report.text);
     add(u"reason"_s, report.reason);
     return values;
+}
+
+std::optional<Control::Show::What> Control::windowNamed(QStringView name)
+{
+    for (const auto& [what, known] : windows)
+        if (name == known)
+            return what;
+    return std::nullopt;
 }
 
 int Control::exitCode(const CaptureReport& report)

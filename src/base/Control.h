@@ -65,6 +65,9 @@ CaptureReport reportOf(const Result<CaptureReport>& result);
 /// scale, app, historyId, text, reason; what is empty is left out.
 QVariantMap valuesOf(const CaptureReport& report);
 
+/// The window that requests and actions of the desktop call "history", "gallery" or "settings".
+std::optional<Show::What> windowNamed(QStringView name);
+
 /// What a program that waited for the report ends with: 0 done, 1 cancelled, 2 failed, 3 busy.
 int exitCode(const CaptureReport& report);
 

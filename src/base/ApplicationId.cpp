@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#include "base/ApplicationId.h"
+
+QString applicationId()
+{
+    return QStringLiteral(PIXMALLOW_APPLICATION_ID);
+}
