@@ -34,6 +34,9 @@ def cached(name):
     return ""
 
 
+ID = cached("PIXMALLOW_APPLICATION_ID")
+
+
 class InstallTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -59,7 +62,9 @@ class InstallTest(unittest.TestCase):
 
     def test_everything_has_its_place(self):
         for pattern in ("bin/pixmallow", "bin/pixmallow-desktop",
-                        "share/applications/pixmallow.desktop",
+                        f"share/applications/{ID}.desktop",
+                        f"share/dbus-1/services/{ID}.service",
+                        f"share/dbus-1/interfaces/{ID}1.xml",
                         "share/icons/hicolor/scalable/apps/pixmallow.svg",
                         "share/icons/hicolor/symbolic/apps/pixmallow-symbolic.svg",
                         "share/metainfo/*.metainfo.xml", "share/man/man1/pixmallow.1.gz",
@@ -74,6 +79,12 @@ class InstallTest(unittest.TestCase):
             self.assertIn(owner, text)
         self.assertNotIn("@", text.replace("authors@", ""))
 
+    def test_the_bus_starts_what_is_installed(self):
+        service = self.installed("share/dbus-1/services/*.service").read_text()
+        self.assertIn(f"Name={ID}\n", service)
+        program = service.split("Exec=")[1].split()[0]
+        self.assertTrue(os.access(self.folder.name + "/tree" + program, os.X_OK), program)
+
     def test_programs_run_where_they_lie(self):
         self.assertRegex(self.program("--version"), r"^pixmallow \d+\.\d+\.\d+\n$")
 
@@ -84,8 +95,10 @@ class InstallTest(unittest.TestCase):
         self.assertRegex(self.program("text", picture), r"\w")
 
     def test_the_desktop_understands_the_entry(self):
-        entry = self.installed("share/applications/pixmallow.desktop")
+        entry = self.installed(f"share/applications/{ID}.desktop")
+        self.assertIn("DBusActivatable=true", entry.read_text())
         metadata = self.installed("share/metainfo/*.metainfo.xml")
+        self.assertIn(f">{ID}</dbus>", metadata.read_text())
         self.assertIn(f">{entry.name}<", metadata.read_text())
         if shutil.which("desktop-file-validate"):
             self.assertEqual(run("desktop-file-validate", entry), "")

@@ -18,14 +18,15 @@ make_package() {
     package=$(echo build/package/pixmallow_*.deb)
 }
 
-# system_with PACKAGE FOLDER: nothing but it, what it depends on, and the data for reading letters.
+# system_with PACKAGE FOLDER: nothing but it, what it depends on, a session bus, and the data for reading
+# letters.
 system_with() {
     local -a sources
     mapfile -t sources < <(find /etc/apt -name '*.sources' -o -name sources.list)
     as_root mmdebstrap --quiet --mode=root --variant=essential \
         --aptopt='APT::Install-Recommends "false"' \
         --hook-dir=/usr/share/mmdebstrap/hooks/file-mirror-automount \
-        --include="$1" --include=tesseract-ocr-eng \
+        --include="$1" --include=tesseract-ocr-eng,dbus \
         "$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)" "$2" "${sources[@]}"
     as_root mkdir -p "$2/tmp/.X11-unix"
     as_root install -d -m 700 -o 1000 -g 1000 "$2/home/user" "$2/home/user/runtime"
@@ -43,7 +44,7 @@ check_same_bytes() {
 check_package_files() {
     make_package
     lintian --fail-on error "$package"
-    appstreamcli validate --no-net packaging/*.metainfo.xml
+    appstreamcli validate --no-net build/package/packaging/*.metainfo.xml
     mandoc -T lint packaging/pixmallow.1
     zsh -n packaging/completions/_pixmallow
     fish --no-execute packaging/completions/pixmallow.fish

@@ -136,7 +136,7 @@ TEST(CommandDocumentsTest, everyActionOfTheDesktopEntryIsACommand)
 {
     static const QRegularExpression pattern(
         u"^Exec=pixmallow(.*)$"_s, QRegularExpression::MultilineOption);
-    const QString entry = sourceText(u"packaging/pixmallow.desktop"_s);
+    const QString entry = sourceText(u"packaging/pixmallow.desktop.in"_s);
     int actions = 0;
     for (auto found = pattern.globalMatch(entry); found.hasNext(); ++actions) {
         const QString words = found.next().captured(1);
