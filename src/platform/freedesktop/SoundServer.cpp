@@ -21,9 +21,9 @@ public:
     Connection()
         : m_loop(pa_mainloop_new())
         , m_context(pa_context_new(pa_mainloop_get_api(m_loop.get()), "Pixmallow"))
-    {
         // As for a sound that is played, a server may be started for it.
-        m_failed = pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0;
+        , m_failed(pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0)
+    {
     }
     ~Connection() { pa_context_disconnect(m_context.get()); }
     Connection(const Connection&) = delete;
@@ -75,7 +75,7 @@ private:
     std::unique_ptr<pa_context, Free> m_context;
     std::unique_ptr<pa_operation, Free> m_question;
     QString m_name;
-    bool m_failed = false;
+    bool m_failed;
 };
 
 } // namespace
