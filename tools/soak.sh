@@ -5,7 +5,7 @@
 # and wrong_usage and runs it at the project's root.
 
 # In the order in which they run: what 'soak' takes after it, and the row of one that did not run.
-soak_parts=(captures disk kills rounds desktops sanitizers readers packages)
+soak_parts=(captures disk kills rounds desktops packages readers sanitizers)
 declare -A soak_titles=(
     [disk]="Ways of writing on a full disk"
     [kills]="Kills while something is written"
