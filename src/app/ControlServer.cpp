@@ -3,14 +3,13 @@
 #include "app/ControlServer.h"
 
 #include "app/ControlConnection.h"
+#include "base/FileLock.h"
 #include "base/LocalSocket.h"
 
 #include <QCoroTask>
 #include <QFile>
 #include <QPointer>
 
-#include <fcntl.h>
-#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 
@@ -23,25 +22,15 @@ namespace {
 /// More wait until the system lets them in.
 constexpr int mostClients = 128;
 
-/// The kernel gives such a lock back however its owner ends. The file is never removed: two
-/// programs could then lock a file each.
 Result<Descriptor> lock(const QString& path)
 {
-    const auto refuse = [&path] {
-        return Error::failed(u"Couldn't lock “%1”: %2."_s.arg(path, systemMessage(errno)));
-    };
-    Descriptor file(
-        open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
-    if (!file)
-        return refuse();
-    if (flock(file.number(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno != EWOULDBLOCK)
-            return refuse();
+    auto file = lockFile(path);
+    if (!file && file.error().kind == Error::Kind::Exists)
         return Error {Error::Kind::Exists, u"Pixmallow is running already."_s};
-    }
     // What cleans runtime folders of old files leaves sticky ones alone.
     // https://specifications.freedesktop.org/basedir-spec/latest/
-    (void)fchmod(file.number(), 0600 | S_ISVTX);
+    if (file)
+        (void)fchmod(file->number(), 0600 | S_ISVTX);
     return file;
 }
 

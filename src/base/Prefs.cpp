@@ -3,13 +3,13 @@
 #include "base/Prefs.h"
 
 #include "base/AtomicFile.h"
+#include "base/FileLock.h"
 #include "base/SetAside.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QLockFile>
 #include <QThread>
 
 #include <chrono>
@@ -29,17 +29,17 @@ const QString lockName = u"/preferences.lock"_s;
 
 Prefs* installed = nullptr;
 
-/// Waits for other processes to finish their writing, which takes each a few milliseconds. The
-/// lock's own waiting sleeps 100 and more at a time.
-bool acquire(QLockFile& lock)
+/// Waits for other processes to finish their writing, which takes each a few milliseconds. Not
+/// QLockFile: one that was killed just when it had made its file would lock all out for a while.
+Result<Descriptor> lock(const QString& folder)
 {
     const QDeadlineTimer deadline(lockPatience);
-    while (!lock.tryLock(0)) {
-        if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
-            return false;
+    for (;;) {
+        auto locked = lockFile(folder + lockName);
+        if (locked || locked.error().kind != Error::Kind::Exists || deadline.hasExpired())
+            return locked;
         QThread::msleep(3);
     }
-    return true;
 }
 
 /// What a file holds; nothing if that is no JSON object, an error if it cannot be read.
@@ -86,8 +86,9 @@ Prefs::Prefs(const Folders& folders, Watch watched)
     const bool isDamaged = content && !*content;
     if (content && *content)
         m_values = **content;
-    QLockFile lock(m_folder + lockName);
-    if (isDamaged && acquire(lock))
+    if (!isDamaged)
+        return;
+    if (const auto locked = lock(m_folder))
         if (const auto recovered = recoveredContent())
             m_values = *recovered;
 }
@@ -199,9 +200,9 @@ Result<void> Prefs::flush()
         return {};
     if (const auto usable = ensurePrivateFolder(m_folder); !usable)
         return usable;
-    QLockFile lock(m_folder + lockName);
-    if (!acquire(lock))
-        return Error::failed(lock.error() == QLockFile::LockFailedError
+    auto locked = lock(m_folder);
+    if (!locked)
+        return Error::failed(locked.error().kind == Error::Kind::Exists
                 ? u"Couldn't write “%1”: another program is writing it."_s.arg(m_path)
                 : u"Couldn't write “%1”: its folder takes no files."_s.arg(m_path));
     const auto content = recoveredContent();
@@ -214,7 +215,7 @@ Result<void> Prefs::flush()
     if (!written)
         return written;
     m_unsaved.clear();
-    lock.unlock();
+    *locked = {};
     watchAgain();
     adopt(values);
     return {};

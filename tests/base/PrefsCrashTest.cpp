@@ -57,7 +57,7 @@ TEST(PrefsCrashTest, hasEveryReportedValueAfterBeingKilled)
         prefs.set(Prefs::keys.playSound, round % 2 == 0);
         ASSERT_TRUE(prefs.flush());
         EXPECT_EQ(QDir(folders.configuration).entryList(QDir::Files | QDir::Hidden),
-            QStringList {u"preferences.json"_s});
+            QStringList({u"preferences.json"_s, u"preferences.lock"_s}));
         EXPECT_TRUE(contentOf(folders.configuration + u"/preferences.json"_s)
                         .contains("a later version's"));
     }

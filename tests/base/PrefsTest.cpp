@@ -187,7 +187,7 @@ TEST_F(PrefsTest, announcesWhatReadsDifferentlyAndNothingElse)
     write(m_path, "{\"delaySeconds\": 4}");
     EXPECT_TRUE(eventually([&] { return prefs.get(keys.delaySeconds) == 4; }));
     EXPECT_EQ(heard.count(u"delaySeconds"_s), 6);
-    EXPECT_EQ(QDir(m_folders.configuration).entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(QDir(m_folders.configuration).entryList({u"*.json*"_s}, QDir::Files).size(), 1);
 }
 
 TEST_F(PrefsTest, writersOfDifferentKeysKeepOneAnothersValues)
@@ -234,7 +234,7 @@ TEST_F(PrefsTest, setsADamagedFileAsideWithItsContent)
     prefs.set(keys.sound, u"Pop"_s);
     EXPECT_TRUE(prefs.flush());
     EXPECT_EQ(stored(), (QJsonObject {{u"skin"_s, u"ocean"_s}, {u"sound"_s, u"Pop"_s}}));
-    EXPECT_EQ(folder.entryList(QDir::Files).size(), 4);
+    EXPECT_EQ(folder.entryList({u"*.json*"_s}, QDir::Files).size(), 4);
 }
 
 TEST_F(PrefsTest, makesWhateverTheFileHoldsIntoPreferencesAndLosesNothing)

@@ -177,7 +177,7 @@ const std::map<QString, const char*> otherWriters {
     {u"base/AtomicFile.cpp"_s, "what the others write through"},
     {u"history/ThumbnailFiles.cpp"_s, "what can be made again is removed first; tested beside"},
     {u"cli/ShotCommand.cpp"_s, "needs a screen: FullDiskDesktopTest"},
-    {u"app/ControlServer.cpp"_s, "an empty file to lock"},
+    {u"base/FileLock.cpp"_s, "an empty file to lock"},
     {u"platform/freedesktop/faces/unpack-face-detector.cpp"_s, "runs when building"},
 };
 

@@ -89,14 +89,15 @@ struct Expected {
         for (qsizetype at = 0; at + 1 + idLength <= report.size(); at += 1 + idLength) {
             last = Sign(report[at]);
             lastId = QString::fromLatin1(report.mid(at + 1, idLength));
-            if (last == Added)
+            if (last == Added) {
                 ids.append(lastId);
-            else if (last == Removed)
+                ids = ids.last(std::min<qsizetype>(ids.size(), limit));
+            } else if (last == Removed) {
                 ids.removeOne(lastId);
-            else if (last == Cleared)
+            } else if (last == Cleared) {
                 ids.clear();
+            }
         }
-        ids = ids.last(std::min<qsizetype>(ids.size(), limit));
     }
 
     /// Whether that may be what there is after the kill.
