@@ -31,6 +31,8 @@ public:
     /// @param scale device pixels per point.
     OverlayHUD(QImage picture, double scale, const OverlayStyle& style, const QString& purpose);
 
+    const QString& hint() const { return m_hint; }
+
     HudContent contentOf(const OverlayScene& scene) const;
 
     /// All that one content shows and the other does not.

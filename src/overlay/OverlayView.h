@@ -11,6 +11,7 @@ public:
     OverlayView(const FrozenScreen& screen, const OverlayStyle& style, const QString& purpose);
 
     QSize size() const { return m_picture.size(); } ///< Device pixels.
+    const QString& hint() const { return m_hud.hint(); } ///< What can be done.
     QRegion everything() const { return QRect({}, size()); }
 
     /// Returns what has to be painted for it, in device pixels, y down.

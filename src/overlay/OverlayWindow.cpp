@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "overlay/OverlayWindow.h"
 
+#include "overlay/OverlayAccessible.h"
+
 #include <QCoreApplication>
 #include <QExposeEvent>
 
@@ -42,6 +44,8 @@ void OverlayWindow::present(std::unique_ptr<OverlayView> view, const OverlayScen
 {
     m_view = std::move(view);
     m_view->setScene(scene);
+    setTitle(m_view->hint());
+    OverlayAccessible::tell(*this, scene);
     m_changed = m_view->everything();
     show();
     paintNow(); // Without waiting to be told that the window is exposed.
@@ -57,6 +61,7 @@ void OverlayWindow::dismiss()
 void OverlayWindow::setScene(const OverlayScene& scene)
 {
     m_changed += m_view->setScene(scene);
+    OverlayAccessible::tell(*this, scene);
     if (m_changed.isEmpty() || m_updatePosted)
         return;
     m_updatePosted = true;
@@ -84,6 +89,12 @@ qint64 OverlayWindow::paintNow()
     m_store.endPaint();
     flush(changed);
     return areaOf(changed);
+}
+
+QAccessibleInterface* OverlayWindow::accessibleRoot() const
+{
+    return OverlayAccessible::interfaceOf(
+        const_cast<OverlayWindow&>(*this)); // As the toolkit asks.
 }
 
 bool OverlayWindow::event(QEvent* event)

@@ -24,6 +24,8 @@ public:
     void setScene(const OverlayScene& scene);
     qint64 paintNow(); ///< Returns how many pixels that were.
 
+    QAccessibleInterface* accessibleRoot() const override;
+
 protected:
     bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;

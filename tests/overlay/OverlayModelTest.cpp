@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
 #include "overlay/OverlayModel.h"
+#include "overlay/OverlayAccessible.h"
 #include "overlay/OverlayGeometry.h"
 
 #include <gmock/gmock.h>
@@ -8,6 +9,7 @@
 #include <QPoint>
 
 using namespace OverlayGeometry;
+using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 
 namespace {
@@ -186,4 +188,12 @@ TEST(OverlayModelTest, abandonsADragBeforeItCancels)
     EXPECT_FALSE(selection.outcome());
     selection.pressRight();
     EXPECT_TRUE(isCancelled(selection));
+}
+
+TEST(OverlayAccessibleTest, tellsTheSelectionElseThePointer)
+{
+    EXPECT_EQ(OverlayAccessible::told({}), QString());
+    EXPECT_EQ(OverlayAccessible::told({{}, false, QPoint(12, 34)}), u"12, 34"_s);
+    EXPECT_EQ(OverlayAccessible::told({{120, 80, 640, 400}, true, QPoint(12, 34)}),
+        u"640 × 400 at 120, 80"_s);
 }
