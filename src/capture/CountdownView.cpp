@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QStyleHints>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,6 +24,14 @@ constexpr QRectF captionBox(
 constexpr double whenCancelled = 0.4; // Like a control that is disabled.
 
 const QString caption = u"Click to cancel"_s;
+
+/// The painter enlarges.
+QFont unscaled(const Theme& theme, TextStyle style)
+{
+    Theme usual = theme;
+    usual.textScale = std::min(1.0, theme.textScale);
+    return usual.font(style);
+}
 
 } // namespace
 
@@ -57,7 +67,8 @@ void CountdownView::setRemaining(int seconds)
 
 QSize CountdownView::sizeHint() const
 {
-    return {side, side};
+    const int large = int(std::lround(side * grown()));
+    return {large, large};
 }
 
 void CountdownView::paintEvent(QPaintEvent*)
@@ -66,14 +77,21 @@ void CountdownView::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(m_isCancelled ? whenCancelled : 1);
+    painter.scale(grown(), grown());
     paintRing(painter);
     const double changed = m_change.currentValue().toDouble();
     if (m_before != m_remaining)
         paintNumber(painter, m_before, 1 - changed);
     paintNumber(painter, m_remaining, m_before == m_remaining ? 1 : changed);
-    painter.setFont(theme.font(TextStyle::Caption));
+    painter.setFont(unscaled(theme, TextStyle::Caption));
     painter.setPen(theme.secondary);
     painter.drawText(captionBox, Qt::AlignHCenter | Qt::AlignVCenter, caption);
+}
+
+/// All of the card is as much larger as its letters.
+double CountdownView::grown() const
+{
+    return std::max(1.0, m_themes.current().textScale);
 }
 
 /// Empties clockwise, from the top on.
@@ -93,7 +111,7 @@ void CountdownView::paintRing(QPainter& painter) const
 void CountdownView::paintNumber(QPainter& painter, int number, double opacity) const
 {
     const QString text = QString::number(number);
-    QFont font = m_themes.current().font(TextStyle::Countdown);
+    QFont font = unscaled(m_themes.current(), TextStyle::Countdown);
     // More than two digits would not fit into the ring.
     const double room = ring.width() - 2 * (ringWidth + Space::related);
     if (const double width = QFontMetricsF(font).horizontalAdvance(text); width > room)

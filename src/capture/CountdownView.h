@@ -32,6 +32,7 @@ protected:
 
 private:
     void cancel();
+    double grown() const; ///< By large letters.
     void paintRing(QPainter& painter) const;
     void paintNumber(QPainter& painter, int number, double opacity) const;
 

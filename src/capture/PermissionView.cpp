@@ -3,6 +3,7 @@
 #include "capture/PermissionView.h"
 
 #include "capture/SymbolHero.h"
+#include "widgets/Enlarged.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -44,13 +45,13 @@ PermissionView::PermissionView(const Sources& sources, QWidget* parent)
     buttons->setSpacing(Space::tiny);
     buttons->addStretch();
     for (GlassButton* button : {m_restart, m_settings, m_start}) {
-        button->setMinimumWidth(buttonWidth);
+        button->setMinimumWidth(std::max(buttonWidth, button->sizeHint().width()));
         buttons->addWidget(button);
     }
     buttons->addStretch();
     m_title->setAlignment(Qt::AlignCenter);
     m_text->setTextFormat(Qt::RichText);
-    m_text->setFixedWidth(lineWidth);
+    m_text->setFixedWidth(enlarged(lineWidth, sources.themes.current()));
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Space::wide, Space::wide, Space::wide, Space::wide);
@@ -70,6 +71,12 @@ PermissionView::PermissionView(const Sources& sources, QWidget* parent)
     m_timer.callOnTimeout(this, &PermissionView::refresh);
     m_timer.setInterval(lookAgain);
     tell();
+}
+
+QSize PermissionView::sizeHint() const
+{
+    const int width = QWidget::sizeHint().width();
+    return {width, layout()->totalHeightForWidth(width)};
 }
 
 void PermissionView::refresh()

@@ -32,6 +32,7 @@ public:
     explicit PermissionView(const Sources& sources, QWidget* parent = nullptr);
 
     bool isGranted() const { return m_granted; }
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     void closeWanted();

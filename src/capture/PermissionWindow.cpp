@@ -41,7 +41,7 @@ void PermissionWindow::make()
     m_view->setWindowTitle(u"Welcome to Pixmallow"_s);
     m_view->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
         | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-    m_view->setFixedSize(contentSize.expandedTo(m_view->minimumSizeHint())); // Large letters.
+    m_view->setFixedSize(contentSize.expandedTo(m_view->sizeHint())); // Large letters.
     const auto screen = PanelPlacement::under(QCursor::pos(), PanelPlacement::screens());
     m_view->setGeometry(PanelPlacement::centred(screen, m_view->size()));
     connect(m_view.get(), &PermissionView::closeWanted, m_view.get(), &QWidget::hide);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "capture/ToastView.h"
 
+#include "widgets/Enlarged.h"
 #include "widgets/Icons.h"
 #include "widgets/TextLines.h"
 
@@ -15,7 +16,6 @@ namespace {
 constexpr QSize leastSize(320, 80);
 constexpr int symbolSize = 22; // As tall as a title's line.
 constexpr int textLeft = Space::group + symbolSize + Space::inner;
-constexpr int textWidth = leastSize.width() - textLeft - Space::group;
 constexpr int mostLines = 4;
 
 const QString failureSymbol = u"exclamationmark.triangle.fill"_s;
@@ -47,10 +47,10 @@ ToastView::ToastView(const Themes& themes, const ToastMessage& toast, QWidget* p
 
 QSize ToastView::sizeHint() const
 {
-    const int height = layout()->hasHeightForWidth()
-        ? layout()->totalHeightForWidth(leastSize.width())
-        : layout()->sizeHint().height();
-    return leastSize.expandedTo({0, height});
+    const int width = enlarged(leastSize.width(), m_themes.current());
+    const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                     : layout()->sizeHint().height();
+    return {width, std::max(leastSize.height(), height)};
 }
 
 void ToastView::paintEvent(QPaintEvent*)
@@ -65,7 +65,8 @@ void ToastView::paintEvent(QPaintEvent*)
 void ToastView::fitMessage()
 {
     const QFont font = m_themes.current().font(TextStyle::Callout);
-    const auto lines = TextLines::fitting(m_toast.message, font, textWidth, mostLines);
+    const int width = enlarged(leastSize.width(), m_themes.current()) - textLeft - Space::group;
+    const auto lines = TextLines::fitting(m_toast.message, font, width, mostLines);
     m_message->setText(lines.join(u'\n'));
     const bool isWhole = lines.join(u' ') == m_toast.message;
     m_message->setToolTip(isWhole ? QString() : m_toast.message);

@@ -6,6 +6,7 @@
 #include "editor/ColorWell.h"
 #include "editor/TextStyles.h"
 #include "editor/Tools.h"
+#include "widgets/Accessible.h"
 #include "widgets/SegmentedControl.h"
 
 #include <QComboBox>
@@ -164,6 +165,7 @@ void EditorToolbar::addStroke()
     connect(m_stroke, &QComboBox::activated, this, choose);
     add(m_stroke, Gap::Related, Item::Stroke,
         [this, choose](QMenu& menu) { addChoice(menu, *m_stroke, choose); });
+    Accessible::label(*m_stroke, u"Thickness"_s);
 }
 
 void EditorToolbar::addZoom()
@@ -197,6 +199,7 @@ void EditorToolbar::addTextStyle()
     connect(m_textStyle, &QComboBox::activated, this, choose);
     add(m_textStyle, Gap::Group, Item::TextStyle,
         [this, choose](QMenu& menu) { addChoice(menu, *m_textStyle, choose); });
+    Accessible::label(*m_textStyle, u"Text style"_s);
 }
 
 void EditorToolbar::addFun(QMenu& menu)

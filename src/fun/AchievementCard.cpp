@@ -21,6 +21,13 @@ constexpr int ringSize = 56;
 constexpr double ringWidth = 3;
 constexpr int wholeTurn = 360 * 16; // As the toolkit counts angles.
 
+/// Of what there is to do.
+int linesOf(const Theme& theme)
+{
+    constexpr double large = 1.2;
+    return theme.textScale > large ? 3 : 2;
+}
+
 } // namespace
 
 AchievementCard::AchievementCard(
@@ -35,8 +42,8 @@ AchievementCard::AchievementCard(
 
 QSize AchievementCard::sizeHint() const
 {
-    const int text
-        = theme().lineHeight(TextStyle::Headline) + 3 * theme().lineHeight(TextStyle::Caption);
+    const int text = theme().lineHeight(TextStyle::Headline)
+        + (linesOf(theme()) + 1) * theme().lineHeight(TextStyle::Caption);
     const int height = Space::inner + ringSize + Space::tiny + text + Space::related;
     return cardSize.expandedTo({0, height}); // Large letters.
 }
@@ -88,7 +95,7 @@ void AchievementCard::paintText(QPainter& painter, int top) const
     line = QRect(
         line.left(), line.bottom() + 1, line.width(), theme().lineHeight(TextStyle::Caption));
     for (const QString& text :
-        TextLines::fitting(m_achievement.desc.toString(), small, line.width(), 2)) {
+        TextLines::fitting(m_achievement.desc.toString(), small, line.width(), linesOf(theme()))) {
         painter.drawText(line, Qt::AlignCenter, text);
         line.translate(0, line.height());
     }

@@ -6,6 +6,7 @@
 #include "fun/PetCard.h"
 #include "fun/StreakCalendarView.h"
 #include "widgets/Accessible.h"
+#include "widgets/Enlarged.h"
 #include "widgets/TextLabel.h"
 
 #include <QGridLayout>
@@ -57,12 +58,12 @@ GalleryView::GalleryView(const Themes& themes, Fun& fun, QWidget* parent)
     connect(&themes, &Themes::changed, this, &GalleryView::adoptTheme);
     adoptTheme();
     refresh();
-    arrange(usualWidth);
+    arrange(enlarged(usualWidth, themes.current()));
 }
 
 QSize GalleryView::sizeHint() const
 {
-    return {usualWidth, widget()->sizeHint().height()};
+    return {enlarged(usualWidth, m_themes.current()), widget()->sizeHint().height()};
 }
 
 void GalleryView::adoptTheme()
@@ -91,7 +92,8 @@ void GalleryView::refresh()
 void GalleryView::arrange(int width)
 {
     const int inner = width - 2 * Space::window;
-    const int columns = std::max(1, (inner + Space::inner) / (cardWidth + Space::inner));
+    const int card = enlarged(cardWidth, m_themes.current());
+    const int columns = std::max(1, (inner + Space::inner) / (card + Space::inner));
     if (columns == m_columns)
         return;
     for (int column = 0; column < m_columns; ++column)

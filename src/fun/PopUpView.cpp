@@ -4,6 +4,7 @@
 
 #include "fun/Emoji.h"
 #include "widgets/Accessible.h"
+#include "widgets/Enlarged.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -35,7 +36,8 @@ QSize PopUpView::sizeHint() const
     const Theme& theme = m_themes.current();
     const int lines = theme.lineHeight(TextStyle::Caption) + theme.lineHeight(TextStyle::Headline)
         + theme.lineHeight(TextStyle::Callout);
-    return viewSize.expandedTo({0, lines + 2 * Space::inner}); // Large letters.
+    return {
+        enlarged(viewSize.width(), theme), std::max(viewSize.height(), lines + 2 * Space::inner)};
 }
 
 void PopUpView::paintEvent(QPaintEvent*)

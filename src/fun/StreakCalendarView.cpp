@@ -35,19 +35,34 @@ void StreakCalendarView::setDays(const QList<StreakCalendar::Day>& days, int str
         ? u"Longest: %1 %2"_s.arg(m_locale.toString(best), best == 1 ? u"day"_s : u"days"_s)
         : u"A capture a day keeps it going"_s;
     setAccessibleName(m_title + u". "_s + m_detail);
+    updateGeometry();
     update();
+}
+
+/// Large letters have no room for both on one line.
+bool StreakCalendarView::isDetailBelow() const
+{
+    const int title = QFontMetrics(theme().font(TextStyle::Headline)).horizontalAdvance(m_title);
+    const int detail = QFontMetrics(theme().font(TextStyle::Callout)).horizontalAdvance(m_detail);
+    return title + Space::related + detail > sizeOfDots().width();
+}
+
+QSize StreakCalendarView::sizeOfDots() const
+{
+    return {StreakCalendar::weeks * step - Space::tiny, 7 * step - Space::tiny};
 }
 
 int StreakCalendarView::dotsTop() const
 {
-    return Space::group + theme().lineHeight(TextStyle::Headline) + Space::related
+    const int lines = isDetailBelow() ? 2 : 1;
+    return Space::group + lines * theme().lineHeight(TextStyle::Headline) + Space::related
         + theme().lineHeight(TextStyle::Caption) + Space::tiny;
 }
 
 QSize StreakCalendarView::sizeHint() const
 {
-    return {2 * Space::group + StreakCalendar::weeks * step - Space::tiny,
-        dotsTop() + 7 * step - Space::tiny + Space::group};
+    return {
+        2 * Space::group + sizeOfDots().width(), dotsTop() + sizeOfDots().height() + Space::group};
 }
 
 QRectF StreakCalendarView::dot(int day) const
@@ -75,7 +90,11 @@ void StreakCalendarView::paintTitle(QPainter& painter) const
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, m_title);
     painter.setFont(theme().font(TextStyle::Callout));
     painter.setPen(theme().secondary);
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_detail);
+    if (isDetailBelow())
+        painter.drawText(
+            line.translated(0, line.height()), Qt::AlignLeft | Qt::AlignVCenter, m_detail);
+    else
+        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_detail);
 }
 
 /// Over the weeks that they begin in; the last weeks have no room for a name.

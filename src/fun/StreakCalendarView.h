@@ -28,6 +28,8 @@ private:
     void paintMonths(QPainter& painter) const;
     void paintDot(QPainter& painter, int day) const;
     QRectF dot(int day) const; ///< In points of the widget.
+    bool isDetailBelow() const;
+    QSize sizeOfDots() const;
     int dotsTop() const;
     QString told(const StreakCalendar::Day& day) const;
 

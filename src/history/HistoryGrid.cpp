@@ -5,6 +5,7 @@
 #include "history/AccessibleCards.h"
 #include "history/CardText.h"
 #include "widgets/Accessible.h"
+#include "widgets/Enlarged.h"
 #include "widgets/Motion.h"
 
 #include <QEvent>
@@ -130,7 +131,7 @@ void HistoryGrid::layOut()
     const auto lines
         = m_catalogue.isSearching() ? CardPainter::Lines::Two : CardPainter::Lines::One;
     m_layout = HistoryLayout(sizes,
-        {viewport()->width(), Space::window, Space::group, leastWidth,
+        {viewport()->width(), Space::window, Space::group, enlarged(leastWidth, theme),
             CardPainter::height(theme, lines), theme.lineHeight(TextStyle::Title3) + Space::group});
     const QScopedValueRollback returning(m_isReturning, true); // The range may cut it off.
     const int page = viewport()->height();

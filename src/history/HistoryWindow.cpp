@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "history/HistoryWindow.h"
 
+#include "widgets/Enlarged.h"
 #include "widgets/PanelPlacement.h"
 
 #include <QCursor>
@@ -37,7 +38,9 @@ void HistoryWindow::show()
         m_view->setMinimumSize(leastSize);
         const auto screen = PanelPlacement::under(QCursor::pos(), PanelPlacement::screens());
         const QSize room = screen.workArea.size() - QSize(2 * Space::wide, 2 * Space::wide);
-        m_view->setGeometry(PanelPlacement::centred(screen, usualSize.boundedTo(room)));
+        const Theme& theme = m_themes.current();
+        const QSize size(enlarged(usualSize.width(), theme), enlarged(usualSize.height(), theme));
+        m_view->setGeometry(PanelPlacement::centred(screen, size.boundedTo(room)));
         connect(m_view, &HistoryView::captureWanted, this, &HistoryWindow::captureWanted);
     }
     if (m_view->isMinimized())

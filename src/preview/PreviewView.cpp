@@ -7,6 +7,7 @@
 #include "preview/ReactionPill.h"
 #include "widgets/Accessible.h"
 #include "widgets/CardFrame.h"
+#include "widgets/Enlarged.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
 #include "widgets/TextLabel.h"
@@ -19,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include <chrono>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -29,6 +31,7 @@ constexpr int cardWidth = 340; // Points.
 constexpr double barHeight = 3;
 constexpr float barOpacity = 0.85f;
 constexpr auto statusShown = 3s;
+constexpr double calmSteps = 4; // Of the bar, where nothing is to move.
 
 /// The symbol of the program beside its name.
 class HeaderSymbol final : public QWidget {
@@ -80,7 +83,7 @@ PreviewView::PreviewView(
     column->addWidget(m_hint);
     column->addSpacing(Space::related);
     column->addLayout(actionRow());
-    setFixedWidth(cardWidth);
+    setFixedWidth(enlarged(cardWidth, themes.current()));
 
     m_statusSeen.setSingleShot(true);
     m_statusSeen.setInterval(statusShown);
@@ -233,9 +236,11 @@ void PreviewView::tick()
 
 void PreviewView::paintEvent(QPaintEvent*)
 {
-    const double left = m_countdown.left(m_prefs.get(Prefs::keys.previewSeconds));
+    double left = m_countdown.left(m_prefs.get(Prefs::keys.previewSeconds));
     if (left <= 0)
         return;
+    if (m_themes.current().reducedMotion)
+        left = std::ceil(left * calmSteps) / calmSteps;
     QColor colour = m_themes.current().accent;
     colour.setAlphaF(barOpacity);
     QPainter painter(this);

@@ -76,7 +76,8 @@ void Sounds::install()
 QStringList Sounds::desktopFolders()
 {
     auto folders = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
-    folders.append(folders.takeFirst()); // The user's stands first; the system's is to.
+    std::ranges::rotate(
+        folders, folders.begin() + 1); // The user's stands first; the system's is to.
     for (auto& folder : folders)
         folder += u"/sounds"_s;
     return folders;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/DoctorProcess.h"
 #include "app/Rooms.h"
 #include "ui/TrayItem.h"
 #include "ui/panel/MenuPanel.h"
@@ -23,7 +22,6 @@ private:
 
     DesktopPlatform& m_platform;
     Rooms& m_rooms;
-    DoctorProcess m_doctor {QCoreApplication::applicationFilePath()};
     const SettingsMeans m_settingsMeans;
     RecentActions m_recent;
     TrayItem m_tray;

@@ -5,8 +5,11 @@
 #include "widgets/AccessiblePartsInterface.h"
 
 #include <QAccessibleWidget>
+#include <QComboBox>
+#include <QLabel>
 #include <QPointer>
-#include <QWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,7 +44,10 @@ public:
 
     QAccessible::Role role() const override
     {
-        return m_description ? m_description->kind.role : QAccessible::Client;
+        if (!m_description)
+            return QAccessible::Client;
+        const auto role = m_description->kind.role;
+        return widget()->isWindow() && role == QAccessible::Grouping ? QAccessible::Window : role;
     }
 
     QStringList actionNames() const override
@@ -83,10 +89,16 @@ void tell(QAccessibleEvent& event)
     QAccessible::updateAccessibility(&event);
 }
 
-QAccessibleInterface* interfaceOf(const QString&, QObject* object)
+/// Asked for each class of an object, the most special one first.
+QAccessibleInterface* interfaceOf(const QString& kindOfObject, QObject* object)
 {
     auto* widget = qobject_cast<QWidget*>(object);
-    const Description* description = widget ? descriptionOf(*widget) : nullptr;
+    if (!widget)
+        return nullptr;
+    const Description* description = descriptionOf(*widget);
+    if (!description && kindOfObject == "QWidget"_L1 && widget->isWindow())
+        return new QAccessibleWidget(
+            widget, widget->windowType() == Qt::Popup ? QAccessible::Dialog : QAccessible::Window);
     if (!description)
         return nullptr;
     const auto& kind = description->kind;
@@ -102,9 +114,28 @@ void Accessible::setListener(Listener listener)
     also = std::move(listener);
 }
 
-void Accessible::describe(QWidget& widget, Kind kind)
+void Accessible::install()
 {
     QAccessible::installFactory(interfaceOf); // Does nothing if it is.
+}
+
+void Accessible::label(QComboBox& choice, const QString& name)
+{
+    const QString known = u"accessibleLabel"_s;
+    choice.setAccessibleName(name);
+    for (auto* label :
+        choice.parentWidget()->findChildren<QLabel*>(known, Qt::FindDirectChildrenOnly))
+        if (label->buddy() == &choice)
+            return label->setText(name);
+    auto* label = new QLabel(name, choice.parentWidget());
+    label->setObjectName(known);
+    label->setBuddy(&choice);
+    label->hide();
+}
+
+void Accessible::describe(QWidget& widget, Kind kind)
+{
+    install();
     if (Description* known = descriptionOf(widget))
         known->kind = std::move(kind);
     else

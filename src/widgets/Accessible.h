@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+class QComboBox;
 class QWidget;
 
 /// One of the things that a widget paints without there being a widget for each.
@@ -46,6 +47,13 @@ struct Kind {
 
 /// Before the widget gets a name.
 void describe(QWidget& widget, Kind kind);
+
+/// Makes the program's windows known as windows. Once there is an application.
+void install();
+
+/// The name of a combo box, which the toolkit tells nobody but by a label beside it. The box has
+/// its parent already.
+void label(QComboBox& choice, const QString& name);
 
 /// There is nothing to tell of it: it is only for the eye.
 void describeAsDecoration(QWidget& widget);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/ApplicationLook.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/style/HouseStyle.h"
 
 #include <QApplication>
@@ -35,6 +36,7 @@ ApplicationLook::ApplicationLook(const Surroundings& surroundings)
     : m_surroundings(surroundings)
     , m_style(new HouseStyle(surroundings.themes.current(), corners(surroundings.surfaces)))
 {
+    Accessible::install();
     QApplication::setStyle(m_style);
     connect(&m_surroundings.themes, &Themes::changed, this, &ApplicationLook::adopt);
     connect(
@@ -53,6 +55,10 @@ void ApplicationLook::adopt()
     m_style->wear(theme, corners(m_surroundings.surfaces));
     QApplication::setPalette(theme.palette());
     setLetters(theme);
+    if (theme.reducedMotion) // Some desktops ask for them.
+        for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
+                 Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip})
+            QApplication::setEffectEnabled(effect, false);
     for (QWidget* widget : QApplication::allWidgets())
         widget->update(); // A palette that stayed the same repaints nothing.
 }

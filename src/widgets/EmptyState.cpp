@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/EmptyState.h"
 
+#include "widgets/Enlarged.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
 #include "widgets/TextLabel.h"
@@ -30,7 +31,7 @@ EmptyState::EmptyState(const Themes& themes, const Content& content, QWidget* pa
     title->setAlignment(Qt::AlignCenter);
     m_text->setText(content.text);
     m_text->setAlignment(Qt::AlignCenter);
-    m_text->setFixedWidth(lineWidth);
+    m_text->setFixedWidth(enlarged(lineWidth, themes.current()));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(Space::related);
     column->addStretch(2);

@@ -3,6 +3,7 @@
 #include "widgets/GlassButton.h"
 
 #include "widgets/Contrast.h"
+#include "widgets/Enlarged.h"
 #include "widgets/Icons.h"
 #include "widgets/Motion.h"
 
@@ -66,10 +67,11 @@ void GlassButton::setSymbolExtent(QSize extent)
 
 QSize GlassButton::sizeHint() const
 {
-    QSize size = m_extent;
+    const Theme& theme = m_themes.current();
+    QSize size(enlarged(m_extent.width(), theme), enlarged(m_extent.height(), theme));
     if (!text().isEmpty()) {
-        const QFontMetrics metrics(m_themes.current().font(TextStyle::Headline));
-        const int symbolWidth = m_symbol.isEmpty() ? 0 : Extent::smallSymbol + Space::related;
+        const QFontMetrics metrics(theme.font(TextStyle::Headline));
+        const int symbolWidth = m_symbol.isEmpty() ? 0 : symbolExtent() + Space::related;
         size.setWidth(metrics.horizontalAdvance(text()) + symbolWidth + 2 * Space::group);
         size.setHeight(std::max(Extent::toolbar, metrics.height() + 2 * Space::related));
     }
@@ -100,18 +102,23 @@ void GlassButton::paintEvent(QPaintEvent*)
     painter.drawRoundedRect(box, Radius::cell, Radius::cell);
 
     if (text().isEmpty()) {
-        Icons::paint(painter, m_symbol, box, Extent::smallSymbol, ink());
+        Icons::paint(painter, m_symbol, box, symbolExtent(), ink());
         return;
     }
     painter.setFont(theme.font(TextStyle::Headline));
     painter.setPen(ink());
     if (!m_symbol.isEmpty()) {
         box.adjust(Space::group, 0, -Space::group, 0);
-        const QRectF left(box.topLeft(), QSizeF(Extent::smallSymbol, box.height()));
-        Icons::paint(painter, m_symbol, left, Extent::smallSymbol, ink());
+        const QRectF left(box.topLeft(), QSizeF(symbolExtent(), box.height()));
+        Icons::paint(painter, m_symbol, left, symbolExtent(), ink());
         box.setLeft(left.right() + Space::related);
     }
     painter.drawText(box, Qt::AlignCenter, text());
+}
+
+int GlassButton::symbolExtent() const
+{
+    return enlarged(Extent::smallSymbol, m_themes.current());
 }
 
 QColor GlassButton::ground() const

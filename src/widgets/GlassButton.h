@@ -41,6 +41,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    int symbolExtent() const; ///< Points.
     QColor ground() const;
     QColor ink() const;
 

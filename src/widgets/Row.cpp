@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Row.h"
 
+#include "widgets/Accessible.h"
 #include "widgets/SymbolLabel.h"
 #include "widgets/TextLabel.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 
 namespace {
@@ -42,7 +44,9 @@ Row::Row(const Themes& themes, const RowText& text, QWidget* control)
 void Row::setLabel(const QString& text)
 {
     m_label->setText(text);
-    if (m_control)
+    if (auto* choice = qobject_cast<QComboBox*>(m_control))
+        Accessible::label(*choice, text);
+    else if (m_control)
         m_control->setAccessibleName(text);
 }
 

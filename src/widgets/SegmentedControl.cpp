@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/SegmentedControl.h"
 
+#include "widgets/Enlarged.h"
 #include "widgets/Icons.h"
 
 #include <QAbstractButton>
@@ -33,7 +34,8 @@ public:
     QSize sizeHint() const override
     {
         if (!m_symbol.isEmpty())
-            return {Extent::toolbar, Extent::control};
+            return {enlarged(Extent::toolbar, m_themes.current()),
+                enlarged(Extent::control, m_themes.current())};
         const QFontMetrics metrics(m_themes.current().font(TextStyle::Body));
         return {metrics.horizontalAdvance(text()) + 2 * Space::group,
             std::max(Extent::control, metrics.height() + Space::related)};
@@ -60,7 +62,7 @@ protected:
         }
         const QColor ink = isChecked() ? theme.onAccent : theme.text;
         if (!m_symbol.isEmpty())
-            return Icons::paint(painter, m_symbol, box, Extent::smallSymbol, ink);
+            return Icons::paint(painter, m_symbol, box, enlarged(Extent::smallSymbol, theme), ink);
         painter.setFont(theme.font(TextStyle::Body));
         painter.setPen(ink);
         painter.drawText(box, Qt::AlignCenter, text());

@@ -3,6 +3,7 @@
 #include "widgets/SymbolLabel.h"
 
 #include "widgets/Accessible.h"
+#include "widgets/Enlarged.h"
 #include "widgets/Icons.h"
 
 #include <QPainter>
@@ -14,18 +15,22 @@ SymbolLabel::SymbolLabel(const Themes& themes, QString symbol, Role role)
 {
     Accessible::describeAsDecoration(*this);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(&m_themes, &Themes::changed, this, qOverload<>(&QWidget::update));
+    connect(&m_themes, &Themes::changed, this, [this] {
+        updateGeometry();
+        update();
+    });
 }
 
 QSize SymbolLabel::sizeHint() const
 {
-    return {Extent::symbol, Extent::symbol};
+    const int side = enlarged(Extent::symbol, m_themes.current());
+    return {side, side};
 }
 
 void SymbolLabel::paintEvent(QPaintEvent*)
 {
     const Theme& theme = m_themes.current();
     QPainter painter(this);
-    Icons::paint(painter, m_symbol, rect(), Extent::symbol,
+    Icons::paint(painter, m_symbol, rect(), sizeHint().width(),
         m_role == Role::Failure ? theme.failure : theme.text);
 }

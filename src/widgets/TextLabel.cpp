@@ -23,6 +23,12 @@ QSize TextLabel::minimumSizeHint() const
     return {0, QLabel::minimumSizeHint().height()};
 }
 
+/// A layout asks for all the room that there is, also where the label takes less.
+int TextLabel::heightForWidth(int width) const
+{
+    return QLabel::heightForWidth(std::min(width, maximumWidth()));
+}
+
 void TextLabel::adoptTheme()
 {
     const Theme& theme = m_themes.current();

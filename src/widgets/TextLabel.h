@@ -19,6 +19,7 @@ public:
         Lines lines = Lines::One, QWidget* parent = nullptr);
 
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -81,6 +81,9 @@ QStringList lackingOf(QAccessibleInterface& control)
     const bool acts = actions && !actions->actionNames().isEmpty();
     if ((pressed.contains(role) || looksClickable(control)) && !acts && !control.state().disabled)
         lacking << u"an action"_s;
+    // The toolkit tells what is chosen in place of the name.
+    if (role == QAccessible::ComboBox && control.relations(QAccessible::Label).isEmpty())
+        lacking << u"a label"_s;
     if (valued.contains(role) && !control.valueInterface())
         lacking << u"a value"_s;
     if (role == QAccessible::EditableText && !control.textInterface())

@@ -44,9 +44,9 @@ GalleryWorld::GalleryWorld()
     skins.apply();
 }
 
-void GalleryWorld::wear(const QString& skin, bool dark)
+void GalleryWorld::wear(const QString& skin, bool dark, double textScale)
 {
-    platform.fakeAppearance().set({.dark = dark});
+    platform.fakeAppearance().set({.dark = dark, .textScale = textScale});
     skins.use(skin);
     skins.apply();
 }

@@ -14,7 +14,9 @@
 struct GalleryWorld {
     GalleryWorld();
 
-    void wear(const QString& skin, bool dark); ///< Where the skin leaves that open.
+    /// @param dark where the skin leaves that open
+    /// @param textScale what the desktop enlarges letters by
+    void wear(const QString& skin, bool dark, double textScale = 1);
 
     QTemporaryDir home;
     Folders folders;

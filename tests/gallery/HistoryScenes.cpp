@@ -128,7 +128,7 @@ std::unique_ptr<QWidget> HistoryScenes::achievements(GalleryWorld& world)
     auto* fun = new Fun(folders, world.prefs, {[] { return now; }, [](int) { return 0; }});
     auto view = std::make_unique<GalleryView>(world.themes, *fun);
     QObject::connect(view.get(), &QObject::destroyed, fun, &QObject::deleteLater);
-    view->setFixedSize(view->sizeHint());
+    view->setFixedSize(view->sizeHint().boundedTo({1264, 784})); // As a window on a screen.
     return view;
 }
 

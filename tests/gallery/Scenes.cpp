@@ -110,6 +110,7 @@ std::unique_ptr<QWidget> permission(GalleryWorld& world, bool granted)
         PermissionView::Sources {world.themes, *world.platform.capture, *world.platform.workspace,
             world.platform.words, [] { return u"Ctrl+Shift+1"_s; }, [] { return true; }});
     world.platform.fakeCapture().isPermitted = true;
+    view->setFixedSize(view->sizeHint());
     return view;
 }
 

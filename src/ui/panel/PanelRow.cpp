@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panel/PanelRow.h"
 
+#include "widgets/Enlarged.h"
 #include "widgets/Icons.h"
 #include "widgets/style/StyleTools.h"
 
@@ -93,7 +94,8 @@ void PanelRow::paintEvent(QPaintEvent*)
         box = StyleTools::atEnd(option, box, std::max(0, box.width() - width - Space::related));
         return part;
     };
-    Icons::paint(painter, m_symbol, take(symbolSize), symbolSize, ink);
+    const int symbol = enlarged(symbolSize, theme);
+    Icons::paint(painter, m_symbol, take(symbol), symbol, ink);
     const int start = int(QStyle::visualAlignment(option.direction, Qt::AlignLeft));
     const int end = int(QStyle::visualAlignment(option.direction, Qt::AlignRight));
 

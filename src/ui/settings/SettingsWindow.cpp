@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize usual(720, 520); // Points.
+constexpr QSize usualPage(540, 520); // Points, beside the list.
 constexpr QSize smallest(620, 400);
 
 struct PageInfo {
@@ -26,7 +26,7 @@ struct PageInfo {
     void (*fill)(SettingsPage&, const SettingsMeans&);
 };
 
-constexpr std::array<PageInfo, 9> pages {{
+constexpr std::array<PageInfo, 8> pages {{
     {QLatin1String("gearshape"), QLatin1String("General"), SettingsPages::fillGeneral},
     {QLatin1String("camera"), QLatin1String("Capture"), SettingsPages::fillCapture},
     {QLatin1String("photo.on.rectangle.angled"), QLatin1String("Preview"),
@@ -35,7 +35,6 @@ constexpr std::array<PageInfo, 9> pages {{
     {QLatin1String("keyboard"), QLatin1String("Shortcuts"), SettingsPages::fillShortcuts},
     {QLatin1String("sparkles"), QLatin1String("Fun"), SettingsPages::fillFun},
     {QLatin1String("arrow.down.circle"), QLatin1String("Updates"), SettingsPages::fillUpdates},
-    {QLatin1String("checkmark.circle"), QLatin1String("Diagnosis"), SettingsPages::fillDiagnosis},
     {QLatin1String("info.circle"), QLatin1String("About"), SettingsPages::fillAbout},
 }};
 
@@ -49,7 +48,8 @@ SettingsWindow::SettingsWindow(SettingsMeans means)
 {
     setWindowTitle(u"Settings"_s);
     const Theme& theme = m_means.themes.current();
-    resize(enlarged(usual.width(), theme), enlarged(usual.height(), theme));
+    resize(m_sidebar->width() + enlarged(usualPage.width(), theme),
+        enlarged(usualPage.height(), theme));
     setMinimumSize(smallest);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
@@ -76,7 +76,8 @@ void SettingsWindow::present()
 {
     if (!isVisible()) {
         const auto screen = PanelPlacement::under(QCursor::pos(), PanelPlacement::screens());
-        setGeometry(PanelPlacement::centred(screen, size()));
+        const QSize room = screen.workArea.size() - QSize(2 * Space::wide, 2 * Space::wide);
+        setGeometry(PanelPlacement::centred(screen, size().boundedTo(room)));
         m_sidebar->setFocus();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -69,7 +69,8 @@ void SkinButton::paintEvent(QPaintEvent*)
 
     painter.setFont(own.font(TextStyle::Caption));
     const QFontMetricsF metrics(painter.font());
-    const QString name = metrics.elidedText(m_skin.name, Qt::ElideRight, box.width() - 28);
+    const QString name
+        = metrics.elidedText(m_skin.name, Qt::ElideRight, box.width() - dot - 2 * Space::related);
     const double width = dot + Space::tiny + metrics.horizontalAdvance(name);
     const double height = own.lineHeight(TextStyle::Caption) + 3;
     const QRectF line(box.center().x() - width / 2, box.bottom() - height - 6, width + 1, height);

@@ -25,12 +25,13 @@ StatsView::StatsView(const Themes& themes, const Fun& fun)
 TextLabel* StatsView::add(const QString& caption)
 {
     auto* number = new TextLabel(m_themes, TextStyle::Title1);
-    auto* label = new TextLabel(m_themes, TextStyle::Caption, TextLabel::Role::Secondary);
+    auto* label = new TextLabel(
+        m_themes, TextStyle::Caption, TextLabel::Role::Secondary, TextLabel::Lines::Wrapped);
     label->setText(caption);
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
     for (TextLabel* each : {number, label}) {
-        each->setAlignment(Qt::AlignHCenter);
+        each->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
         column->addWidget(each);
     }
     static_cast<QHBoxLayout*>(layout())->addLayout(column, 1);

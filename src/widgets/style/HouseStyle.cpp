@@ -329,6 +329,8 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     case SH_ScrollBar_Transient:
     case SH_FocusFrame_Mask:
         return 0;
+    case SH_Widget_Animation_Duration:
+        return m_theme.reducedMotion ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
     case SH_FocusFrame_AboveWidget:
     case SH_ScrollBar_LeftClickAbsolutePosition:
         return 1;
