@@ -6,7 +6,6 @@
 #include "platform/fake/FakeSurfaceTraits.h"
 #include "tests/desktop/Waiting.h"
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
