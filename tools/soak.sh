@@ -17,35 +17,41 @@ declare -A soak_titles=(
     [packages]="The package"
 )
 
-# One line for each outcome, as tests/campaign/Outcome.h has it.
-outcomes=build/soak/outcomes
+# For each part a file with a line for each outcome, as tests/campaign/Outcome.h has it, and one with
+# the revision that was tried. They stay for later runs of other parts.
+outcomes_folder=build/soak
+table=docs/reliability.md
 
 soak() {
-    local table=docs/reliability.md part
-    local -a parts=("$@") left
+    local part begun=$SECONDS
+    local -a parts=("$@")
     if ((${#parts[@]} == 0)); then
         parts=("${soak_parts[@]}")
-    else # The document tells of whole runs.
-        table=build/soak/reliability.md
     fi
     for part in "${parts[@]}"; do
         [[ -n ${soak_titles[$part]:-} ]] ||
             wrong_usage "There is no part '$part'; there are ${soak_parts[*]}."
     done
-    mkdir -p build/soak
-    : >"$outcomes"
-    export PIXMALLOW_OUTCOMES=$PWD/$outcomes
-    left=("${parts[@]}")
-    local begun=$SECONDS
-    write_table "$table" "${left[@]}"
+    mkdir -p "$outcomes_folder"
     for part in "${parts[@]}"; do
+        rm -f "$outcomes_folder/$part" "$outcomes_folder/$part.revision"
+    done
+    write_table
+    for part in "${parts[@]}"; do
+        begin_part "$part"
         "soak_$part"
-        left=("${left[@]:1}")
-        write_table "$table" "${left[@]}" ${captures:+captures}
+        write_table
     done
     finish_captures
-    write_table "$table"
-    say "The table is in $table"
+    write_table
+    say "It took $(((SECONDS - begun + 30) / 60)) minutes; the table is in $table"
+}
+
+begin_part() {
+    revision | paste -sd ' ' >"$outcomes_folder/$1.revision"
+    outcomes=$outcomes_folder/$1
+    : >"$outcomes"
+    export PIXMALLOW_OUTCOMES=$PWD/$outcomes
 }
 
 # measure WHAT COMMAND...: what a command that writes no outcome of its own, or fails without one,
@@ -68,7 +74,7 @@ measure() {
 # ready PRESET [ARGUMENT...]: builds; an outcome only if that fails.
 ready() {
     local fails=${#failures[@]}
-    attempt "building $1" build "$@"
+    attempt "building $1" build "$@" -- -k 0 # What can be built is of use.
     if ((${#failures[@]} > fails)); then
         outcome "Building the preset $1" - failed "" -
     fi
@@ -81,9 +87,10 @@ outcome() {
 
 # tested WHAT ARGUMENT...: ctest with these arguments, an outcome for all of its tests together.
 tested() {
-    local what=$1 begun=$SECONDS status=0 log=build/soak/ctest.log count
+    local what=$1 begun=$SECONDS status=0 log=$outcomes_folder/ctest.log count
     shift
-    ctest --no-label-summary "$@" 2>&1 | tee "$log" || status=$?
+    # Those of them that have outcomes of their own would tell of short rounds.
+    env -u PIXMALLOW_OUTCOMES ctest --no-label-summary "$@" 2>&1 | tee "$log" || status=$?
     count=$(sed -n 's/^.*tests failed out of //p' "$log" | tail -n 1)
     local failed
     failed=$(sed -n 's/^\t *[0-9]* - \([^ ]*\) (.*)$/\1/p' "$log" | sort -u | paste -sd ' ')
@@ -122,7 +129,7 @@ soak_kills() {
 soak_captures() {
     ready release --target pixmallow pixmallow-desktop virtual-desktop desktop-client ManyCapturesTest
     say "== ${soak_titles[captures]}, meanwhile"
-    campaign 125 ManyCapturesTest >build/soak/captures.log 2>&1 &
+    campaign 125 ManyCapturesTest >"$outcomes_folder/captures.log" 2>&1 &
     captures=$!
 }
 
@@ -131,11 +138,11 @@ finish_captures() {
         return
     fi
     say "== ${soak_titles[captures]}, the rest"
+    outcomes=$outcomes_folder/captures
     if ! wait "$captures"; then
         failures+=("${soak_titles[captures]}")
-        cat build/soak/captures.log
-        grep -qF "${soak_titles[captures]}" "$outcomes" ||
-            outcome "${soak_titles[captures]}" - failed "" -
+        cat "$outcomes_folder/captures.log"
+        [[ -s $outcomes ]] || outcome "${soak_titles[captures]}" - failed "" -
     fi
     captures=
 }
@@ -199,24 +206,32 @@ revision() {
     fi
 }
 
-# write_table FILE PART...: what is known by now. These parts have not come to an end.
+# What is known by now. Of a run that is cut off, that is left.
 write_table() {
-    local table=$1 part
-    shift
+    local part
     {
         echo "# Reliability"
         echo
-        echo "What \`./dev soak\` found when it ran last. It makes this file; rows are never edited by hand."
+        echo "What the parts of \`./dev soak\` found when they ran last. It makes this file; rows are never"
+        echo "edited by hand."
         echo
-        echo "$(date +%Y-%m-%d), revision $(revision | paste -sd ' '), on an $(machine)." \
-            "It took $(((SECONDS - begun + 30) / 60)) minutes$( (($# == 0)) || echo " until here")."
+        echo "$(date +%Y-%m-%d), on an $(machine)."
         echo
-        echo "| what | how many | result | seconds | details |"
-        echo "|---|--:|---|--:|---|"
-        awk -F '\t' '{ printf "| %s | %s | %s | %s | %s |\n", $1, $2, $3, $5, $4 }' "$outcomes"
-        for part in "$@"; do
-            echo "| ${soak_titles[$part]} | | did not run to its end | | |"
+        echo "| what | how many | result | seconds | revision | details |"
+        echo "|---|--:|---|--:|---|---|"
+        for part in "${soak_parts[@]}"; do
+            rows_of "$part"
         done
     } >"$table.new"
     mv "$table.new" "$table"
+}
+
+rows_of() {
+    if [[ ! -s $outcomes_folder/$1 ]]; then
+        echo "| ${soak_titles[$1]} | | did not run to its end | | | |"
+        return
+    fi
+    awk -F '\t' -v revision="$(<"$outcomes_folder/$1.revision")" \
+        '{ printf "| %s | %s | %s | %s | %s | %s |\n", $1, $2, $3, $5, revision, $4 }' \
+        "$outcomes_folder/$1"
 }

@@ -5,12 +5,14 @@
 #include <QBrush>
 #include <QImage>
 
+#include <utility>
+
 /// A picture at whatever size it is asked for: exact at its own, averaged when reduced, smooth when
 /// a little enlarged, and with pixels to be counted when enlarged more. Keeps the last size.
 class PinPicture final {
 public:
-    explicit PinPicture(const QImage& image)
-        : m_image(image)
+    explicit PinPicture(QImage image)
+        : m_image(std::move(image))
     {
     }
 

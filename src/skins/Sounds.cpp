@@ -76,8 +76,7 @@ void Sounds::install()
 QStringList Sounds::desktopFolders()
 {
     auto folders = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
-    std::ranges::rotate(
-        folders, folders.begin() + 1); // The user's stands first; the system's is to.
+    folders.append(folders.takeFirst()); // The user's stands first; the system's is to.
     for (auto& folder : folders)
         folder += u"/sounds"_s;
     return folders;

@@ -12,7 +12,7 @@ Surfaces::Surfaces(
     , m_rooms(rooms)
     , m_settingsMeans {rooms.surroundings().themes, prefs, state, hotkeys, rooms.skins(),
           rooms.sounds(), rooms.fun(), rooms.updater(), *platform.workspace, platform.words,
-          [this] { tryAnimation(); }}
+          *platform.clipboard, [this] { return m_doctor.examine(); }, [this] { tryAnimation(); }}
     , m_recent(rooms.actions(), platform.words.showInFolder)
     , m_tray(state, prefs, rooms.fun(), rooms.surroundings().themes)
     , m_panel(rooms.surroundings(),

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/DoctorProcess.h"
 #include "app/Rooms.h"
 #include "ui/TrayItem.h"
 #include "ui/panel/MenuPanel.h"
@@ -22,6 +23,7 @@ private:
 
     DesktopPlatform& m_platform;
     Rooms& m_rooms;
+    DoctorProcess m_doctor {QCoreApplication::applicationFilePath()};
     const SettingsMeans m_settingsMeans;
     RecentActions m_recent;
     TrayItem m_tray;

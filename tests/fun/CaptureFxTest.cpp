@@ -6,6 +6,7 @@
 #include "platform/fake/FakeSurfaceTraits.h"
 #include "tests/desktop/Waiting.h"
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>

@@ -95,10 +95,15 @@ TEST_F(HistoryWindowTest, thePetIsRenamedWithTheKeyboardAlone)
     capture(u"screen"_s);
     ASSERT_TRUE(opens(u"gallery"_s));
     const auto window = active();
-    desktop().key("Tab"); // The first control.
-    desktop().key("space");
-    desktop().typeKeys("Mochi\n");
-    EXPECT_TRUE(waitFor([&] { return stats()[u"petName"].toString() == u"Mochi"_s; }));
+    // It is the active window a moment before it has the keyboard; keys until then go nowhere.
+    const auto isRenamed = [&] { return stats()[u"petName"].toString() == u"Mochi"_s; };
+    for (int tries = 0; tries < 3 && !isRenamed(); ++tries) {
+        desktop().key("Tab"); // The first control.
+        desktop().key("space");
+        desktop().typeKeys("Mochi\n");
+        std::ignore = waitFor(isRenamed, std::chrono::seconds(3));
+    }
+    EXPECT_TRUE(isRenamed());
     desktop().key("Tab");
     desktop().key("Right");
     desktop().key("Down");

@@ -29,6 +29,7 @@ public:
     QString version() const;
     bool isBusy() const { return m_means.state.isBusy(); }
 
+    // NOLINTBEGIN(readability-identifier-naming): members of the bus begin with a capital.
     QVariantMap Capture(const QString& kind, const QVariantMap& options);
     QList<QVariantMap> History(const QString& search, uint limit);
     void Edit(const QString& id) { withEntry(EntryDeed::Edit, id); }
@@ -49,6 +50,7 @@ public:
 Q_SIGNALS:
     void Captured(const QVariantMap& result);
     void HistoryChanged();
+    // NOLINTEND(readability-identifier-naming)
     void busyChanged(bool isBusy);
 
 private:

@@ -4,8 +4,10 @@
 
 #include "app/AppState.h"
 #include "base/Prefs.h"
+#include "doctor/DoctorRules.h"
 #include "fun/CaptureFx.h"
 #include "fun/Fun.h"
+#include "platform/Clipboard.h"
 #include "platform/PlatformWords.h"
 #include "platform/Workspace.h"
 #include "skins/Skins.h"
@@ -25,5 +27,7 @@ struct SettingsMeans {
     Updater& updater;
     Workspace& workspace;
     const PlatformWords& words;
+    Clipboard& clipboard;
+    std::function<Pending<QList<DoctorCheck>>()> examine; ///< As `pixmallow doctor` does.
     std::function<void()> tryAnimation; ///< Plays the capture animation, on nothing captured.
 };

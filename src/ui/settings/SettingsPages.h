@@ -17,6 +17,7 @@ void fillSound(SettingsPage& page, const SettingsMeans& means);
 void fillShortcuts(SettingsPage& page, const SettingsMeans& means);
 void fillFun(SettingsPage& page, const SettingsMeans& means);
 void fillUpdates(SettingsPage& page, const SettingsMeans& means);
+void fillDiagnosis(SettingsPage& page, const SettingsMeans& means);
 void fillAbout(SettingsPage& page, const SettingsMeans& means);
 
 /// A list of numbers of seconds to choose from; 0 is called as given.

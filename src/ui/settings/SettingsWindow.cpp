@@ -26,7 +26,7 @@ struct PageInfo {
     void (*fill)(SettingsPage&, const SettingsMeans&);
 };
 
-constexpr std::array<PageInfo, 8> pages {{
+constexpr std::array<PageInfo, 9> pages {{
     {QLatin1String("gearshape"), QLatin1String("General"), SettingsPages::fillGeneral},
     {QLatin1String("camera"), QLatin1String("Capture"), SettingsPages::fillCapture},
     {QLatin1String("photo.on.rectangle.angled"), QLatin1String("Preview"),
@@ -35,6 +35,7 @@ constexpr std::array<PageInfo, 8> pages {{
     {QLatin1String("keyboard"), QLatin1String("Shortcuts"), SettingsPages::fillShortcuts},
     {QLatin1String("sparkles"), QLatin1String("Fun"), SettingsPages::fillFun},
     {QLatin1String("arrow.down.circle"), QLatin1String("Updates"), SettingsPages::fillUpdates},
+    {QLatin1String("checkmark.circle"), QLatin1String("Diagnosis"), SettingsPages::fillDiagnosis},
     {QLatin1String("info.circle"), QLatin1String("About"), SettingsPages::fillAbout},
 }};
 

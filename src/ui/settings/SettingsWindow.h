@@ -15,7 +15,7 @@ class SettingsWindow final : public QWidget {
 
 public:
     /// In the order of the list.
-    enum class Page { General, Capture, Preview, Sound, Shortcuts, Fun, Updates, About };
+    enum class Page { General, Capture, Preview, Sound, Shortcuts, Fun, Updates, Diagnosis, About };
 
     explicit SettingsWindow(SettingsMeans means);
 
