@@ -5,10 +5,11 @@
 # and wrong_usage and runs it at the project's root.
 
 # In the order in which they run: what 'soak' takes after it, and the row of one that did not run.
-soak_parts=(captures disk kills rounds desktops packages readers sanitizers)
+soak_parts=(captures disk kills windows rounds desktops packages readers sanitizers)
 declare -A soak_titles=(
     [disk]="Ways of writing on a full disk"
     [kills]="Kills while something is written"
+    [windows]="Windows that say anything of themselves"
     [captures]="Captures in one process"
     [rounds]="Tests with twenty times the random rounds"
     [desktops]="Tests on virtual desktops, three times each"
@@ -114,6 +115,11 @@ soak_disk() {
     ready release --target pixmallow pixmallow-desktop virtual-desktop desktop-client \
         FullDiskTest FullDiskDesktopTest
     measure "Full disk" campaign 1 FullDiskTest FullDiskDesktopTest
+}
+
+soak_windows() {
+    ready release --target pixmallow pixmallow-desktop virtual-desktop desktop-client HostileWindowsTest
+    measure "${soak_titles[windows]}" campaign 50 HostileWindowsTest
 }
 
 # 200 of each kind.
