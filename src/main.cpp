@@ -10,6 +10,8 @@
 #include "app/dbus/BusService.h"
 #include "base/ApplicationId.h"
 #include "base/ControlClient.h"
+#include "base/Language.h"
+#include "base/Words.h"
 #include "capture/Files.h"
 #include "ui/Surfaces.h"
 
@@ -114,7 +116,7 @@ int run(const Folders& folders, Start start)
             return answer ? 0 : fail(answer.error());
         }
         if (deadline.hasExpired()) // It is just beginning or just ending, usually.
-            return fail(Error::failed(u"Pixmallow runs but does not answer."_s));
+            return fail(Error::failed(Words::tr("Pixmallow runs but does not answer.")));
     }
 }
 
@@ -125,15 +127,19 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(u"pixmallow"_s);
     if (argc > 1 && std::strcmp(argv[1], "--text") == 0) {
         const QCoreApplication application(argc, argv);
+        Language::install();
         return runTextCommand(QCoreApplication::arguments().mid(2));
     }
     if (argc > 1 && std::strcmp(argv[1], "--list-history") == 0) {
         const QCoreApplication application(argc, argv);
+        Language::install();
         return runHistoryCommand(QCoreApplication::arguments().mid(2));
     }
     if (argc > 1 && std::strcmp(argv[1], "--doctor") == 0)
         return runDoctorCommand(argc, argv);
     QApplication application(argc, argv);
+    if (Language::install().textDirection() == Qt::RightToLeft)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     QGuiApplication::setApplicationDisplayName(u"Pixmallow"_s);
     QGuiApplication::setDesktopFileName(applicationId());
     QGuiApplication::setWindowIcon(QIcon(u":/pixmallow.svg"_s));

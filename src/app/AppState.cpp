@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppState.h"
 
+#include "base/Words.h"
 #include "base/Worker.h"
 #include "capture/Files.h"
 
@@ -143,14 +144,14 @@ Pending<CaptureReport> AppState::captureAndReport(CaptureKind kind)
     using Outcome = CaptureReport::Outcome;
     if (m_busy)
         return Pending<CaptureReport>::answered(
-            CaptureReport {Outcome::Busy, u"Another capture is running."_s});
+            CaptureReport {Outcome::Busy, tr("Another capture is running.")});
     if (!isAvailable(kind))
         return Pending<CaptureReport>::answered(
-            CaptureReport {Outcome::Unavailable, u"This kind of capture is not available."_s});
+            CaptureReport {Outcome::Unavailable, tr("This kind of capture is not available.")});
     if (!m_platform.capture->permitted()) {
         pass(m_stages.showPermissionWindow);
         return Pending<CaptureReport>::answered(
-            CaptureReport {Outcome::Unavailable, u"The screen may not be captured yet."_s});
+            CaptureReport {Outcome::Unavailable, tr("The screen may not be captured yet.")});
     }
     m_busy = true;
     m_report = {};
@@ -170,7 +171,7 @@ QCoro::Task<> AppState::run(CaptureKind kind, Pending<CaptureReport>::Answer ans
     else if (shot)
         co_await finish(*shot);
     else if (!shot.error().isCancelled())
-        fail({u"Capture failed"_s, shot.error().message, failureSymbol});
+        fail({tr("Capture failed"), shot.error().message, failureSymbol});
     m_busy = false;
     answer(m_report);
     Q_EMIT captureEnded(m_report);
@@ -184,7 +185,7 @@ QCoro::Task<Result<Shot>> AppState::take(CaptureKind kind)
         co_return co_await m_shots.region(m_stages.selectRegion, QString(), otherApp);
     case CaptureKind::Text:
         co_return co_await m_shots.region(
-            m_stages.selectRegion, u"Select the text to copy"_s, otherApp);
+            m_stages.selectRegion, tr("Select the text to copy"), otherApp);
     case CaptureKind::Window:
         co_return co_await captureFrontWindow();
     case CaptureKind::Delayed: {
@@ -209,8 +210,8 @@ QCoro::Task<Result<Shot>> AppState::captureFrontWindow()
         target = *front;
     }
     if (!target) {
-        fail({u"No window to capture"_s,
-            u"Click the window you want first, then press the shortcut."_s, u"macwindow"_s});
+        fail({tr("No window to capture"),
+            tr("Click the window you want first, then press the shortcut."), u"macwindow"_s});
         co_return Error::cancelled();
     }
     co_return co_await m_shots.window(*target);
@@ -233,14 +234,14 @@ QCoro::Task<> AppState::finish(Shot shot)
     QStringList notes;
     if (copies) {
         Files::copy(*m_platform.clipboard, shot.image, shot.scale, png);
-        notes << u"Copied"_s;
+        notes << tr("Copied");
     }
     if (saves) {
         QByteArray bytes = png;
         if (format != u"png"_s)
             bytes = co_await encoded(shot, format);
         finished.path = co_await saved(bytes, format);
-        notes << (finished.path.isEmpty() ? u"Save failed"_s : u"Saved"_s);
+        notes << (finished.path.isEmpty() ? tr("Save failed") : tr("Saved"));
     }
     if (m_stages.addToHistory)
         finished.historyId = m_stages.addToHistory(shot, png, finished.path);
@@ -300,11 +301,11 @@ QCoro::Task<> AppState::copyText(Shot shot)
     const auto recognised = co_await m_stages.recogniseText(shot);
     if (!recognised) {
         if (!recognised.error().isCancelled())
-            fail({u"Couldn't read text"_s, recognised.error().message, failureSymbol});
+            fail({tr("Couldn't read text"), recognised.error().message, failureSymbol});
         co_return;
     }
     if (recognised->text.isEmpty()) {
-        fail({u"No text found"_s, u"Try selecting a larger or sharper area."_s,
+        fail({tr("No text found"), tr("Try selecting a larger or sharper area."),
             u"text.magnifyingglass"_s});
         co_return;
     }
@@ -361,6 +362,7 @@ QString infoLine(QSize pixels, const QStringList& notes)
 
 ToastMessage textCopiedToast(int lines)
 {
-    const QString title = u"Text copied — %1 line%2"_s.arg(lines).arg(lines == 1 ? u""_s : u"s"_s);
+    const QString title = lines == 1 ? Words::tr("Text copied — 1 line")
+                                     : Words::tr("Text copied — %n lines", nullptr, lines);
     return {title, {}, u"text.viewfinder"_s, std::chrono::seconds(5)};
 }

@@ -5,6 +5,7 @@
 #include "app/ControlConnection.h"
 #include "base/FileLock.h"
 #include "base/LocalSocket.h"
+#include "base/Words.h"
 
 #include <QCoroTask>
 #include <QFile>
@@ -26,7 +27,7 @@ Result<Descriptor> lock(const QString& path)
 {
     auto file = lockFile(path);
     if (!file && file.error().kind == Error::Kind::Exists)
-        return Error {Error::Kind::Exists, u"Pixmallow is running already."_s};
+        return Error {Error::Kind::Exists, Words::tr("Pixmallow is running already.")};
     // What cleans runtime folders of old files leaves sticky ones alone.
     // https://specifications.freedesktop.org/basedir-spec/latest/
     if (file)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/DoctorCommand.h"
 
+#include "base/Language.h"
 #include "cli/Print.h"
 #include "doctor/DoctorReport.h"
 #include "doctor/Examination.h"
@@ -27,21 +28,26 @@ QString missingDesktop()
 
 int runDoctorCommand(int argc, char** argv)
 {
-    const QString noDesktop = missingDesktop();
-    if (!noDesktop.isEmpty())
+    const bool hasDesktop = missingDesktop().isEmpty();
+    if (!hasDesktop)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const auto arguments = QCoreApplication::arguments();
+    const bool isJson = arguments.contains(u"--json"_s);
+    if (!isJson || arguments.contains(u"--translated"_s))
+        Language::install();
+    else // Scripts know the texts in English.
+        QLocale::setDefault(QLocale::c());
     const auto folders = Folders::ofUser();
     Prefs prefs(folders, Prefs::Watch::Nothing);
     prefs.registerDefaults();
 
     const Examination examination({folders, prefs, &QSystemTrayIcon::isSystemTrayAvailable,
         arguments.contains(u"--online"_s)});
-    const auto checks = DoctorRules::judge(examination.run(noDesktop));
-    const auto printed = arguments.contains(u"--json"_s)
-        ? print(QJsonValue(DoctorReport::toJson(checks)))
-        : print(DoctorReport::toText(checks).toUtf8());
+    const auto checks
+        = DoctorRules::judge(examination.run(hasDesktop ? QString() : missingDesktop()));
+    const auto printed = isJson ? print(QJsonValue(DoctorReport::toJson(checks)))
+                                : print(DoctorReport::toText(checks).toUtf8());
     if (!printed) {
         complain(printed.error().message);
         return 2;

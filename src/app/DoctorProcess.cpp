@@ -44,7 +44,7 @@ Pending<QList<DoctorCheck>> DoctorProcess::examine()
             if (error == QProcess::FailedToStart)
                 finish(process);
         });
-    process.start(m_program, {u"--doctor"_s, u"--json"_s}, QProcess::ReadOnly);
+    process.start(m_program, {u"--doctor"_s, u"--json"_s, u"--translated"_s}, QProcess::ReadOnly);
     return std::move(pending);
 }
 

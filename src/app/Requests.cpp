@@ -5,12 +5,11 @@
 #include "app/AppState.h"
 #include "app/OpenPictures.h"
 #include "app/Rooms.h"
+#include "base/Words.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,7 +38,7 @@ UsePicture copying(Rooms& rooms)
 CaptureReport reveal(Rooms& rooms, const HistoryItem& item)
 {
     if (!QFileInfo::exists(item.path))
-        return {Outcome::NotFound, u"There is no file “%1”."_s.arg(item.path)};
+        return {Outcome::NotFound, Words::tr("There is no file “%1”.").arg(item.path)};
     rooms.actions().reveal({.shot = {}, .path = item.path});
     return {Outcome::Done};
 }
@@ -50,7 +49,7 @@ Requests::Report withEntry(Rooms& rooms, EntryDeed deed, const QString& id)
     const auto found = std::ranges::find(items, id, &HistoryItem::id);
     if (found == items.cend())
         return Requests::Report::answered(CaptureReport {
-            Outcome::NotFound, u"The history has no entry “%1”."_s.arg(id.left(40))});
+            Outcome::NotFound, Words::tr("The history has no entry “%1”.").arg(id.left(40))});
     const HistoryItem item = *found;
     switch (deed) {
     case EntryDeed::Edit:

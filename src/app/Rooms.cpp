@@ -3,6 +3,7 @@
 #include "app/Rooms.h"
 
 #include "app/OpenPictures.h"
+#include "base/Words.h"
 #include "shortcuts/KeyCombo.h"
 
 #include <QSystemTrayIcon>
@@ -57,7 +58,8 @@ Rooms::Rooms(DesktopPlatform& platform, Prefs& prefs, const Folders& folders)
     m_skins.apply();
     QObject::connect(&m_popUps, &PopUps::galleryWanted, [this] { m_galleryWindow.show(); });
     QObject::connect(&prefs, &Prefs::saveFailed, &m_toast, [this](const QString& message) {
-        m_toast.show({u"Preferences not saved"_s, message, u"exclamationmark.triangle.fill"_s});
+        m_toast.show(
+            {Words::tr("Preferences not saved"), message, u"exclamationmark.triangle.fill"_s});
     });
 }
 
@@ -67,12 +69,12 @@ void Rooms::connectEditors()
         m_toast.show({title, why, u"exclamationmark.triangle.fill"_s});
     };
     QObject::connect(&m_keptEdits, &KeptEdits::failed, &m_toast,
-        [complain](const QString& why) { complain(u"Edits are not safe"_s, why); });
+        [complain](const QString& why) { complain(Words::tr("Edits are not safe"), why); });
     QObject::connect(
         &m_editors, &Editors::filesDropped, &m_toast, [this, complain](const QStringList& paths) {
             editFiles(paths).then([complain](const Result<CaptureReport>& report) {
                 if (report && report->outcome != CaptureReport::Outcome::Done)
-                    complain(u"Cannot be opened"_s, report->reason);
+                    complain(Words::tr("Cannot be opened"), report->reason);
             });
         });
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ShotOperations.h"
 
+#include "base/Words.h"
 #include "base/Worker.h"
 #include "capture/Files.h"
 #include "widgets/ShareMenu.h"
@@ -22,7 +23,7 @@ void ask(QFileDialog& dialog, const Shot& shot, ShotActions::Told::Answer answer
         auto write = [shot, path]() -> Result<QString> {
             if (const auto written = Files::write(shot.image, path, shot.scale); !written)
                 return written.error();
-            return u"Saved "_s + QFileInfo(path).fileName();
+            return Words::tr("Saved %1").arg(QFileInfo(path).fileName());
         };
         runOnWorker(write).then([shared](const Result<QString>& saved) { (*shared)(saved); });
     });
@@ -56,7 +57,7 @@ ShotActions::Told ShotOperations::copy(const FinishedCapture& capture)
     const auto shared = std::make_shared<ShotActions::Told::Answer>(std::move(answer));
     runOnWorker(encode).then([this, shot = capture.shot, shared](const Result<QByteArray>& png) {
         Files::copy(*m_means.platform.clipboard, shot.image, shot.scale, png ? *png : QByteArray());
-        (*shared)(u"Copied to clipboard"_s);
+        (*shared)(Words::tr("Copied to clipboard"));
     });
     return std::move(told);
 }
@@ -68,7 +69,7 @@ ShotActions::Told ShotOperations::saveAs(const FinishedCapture& capture)
     Files::ensureFolder(folder);
     auto* dialog = new QFileDialog;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(u"Save As…"_s);
+    dialog->setWindowTitle(Words::tr("Save As…"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilters({u"PNG (*.png)"_s, u"JPEG (*.jpg *.jpeg)"_s});
     dialog->setDefaultSuffix(u"png"_s);
@@ -85,7 +86,7 @@ ShotActions::Told ShotOperations::share(const FinishedCapture& capture, const QW
     const auto fileToShare = [this, capture]() -> Result<QString> {
         if (auto path = file(capture))
             return *std::move(path);
-        return Error::failed(u"The picture could not be written to a file."_s);
+        return Error::failed(Words::tr("The picture could not be written to a file."));
     };
     auto& platform = m_means.platform;
     auto* menu = new ShareMenu(

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/TextCommand.h"
 
+#include "base/Words.h"
 #include "capture/OCR.h"
 #include "capture/ShotFile.h"
 #include "cli/Print.h"
@@ -25,7 +26,7 @@ QString complaintOf(const QString& path, const Result<OCR::Result>& result)
 {
     if (!result)
         return result.error().message;
-    return result->text.isEmpty() ? u"No text found in “%1”."_s.arg(path) : QString();
+    return result->text.isEmpty() ? Words::tr("No text found in “%1”.").arg(path) : QString();
 }
 
 Result<void> printJson(

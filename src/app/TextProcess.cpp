@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/TextProcess.h"
 
+#include "base/Words.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -27,7 +29,7 @@ Result<OCR::Result> resultFrom(const QByteArray& line)
     const auto object = QJsonDocument::fromJson(line).object();
     if (object[u"text"].isString())
         return OCR::Result {object[u"text"].toString(), object[u"lines"].toInt()};
-    return Error::failed(object[u"reason"].toString(u"The picture could not be read."_s));
+    return Error::failed(object[u"reason"].toString(Words::tr("The picture could not be read.")));
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/AtomicFile.h"
 
+#include "base/Words.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,8 +18,6 @@
 #include <cstdio>
 #include <system_error>
 #include <tuple>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -115,11 +115,11 @@ QString reasonText(int reason, const QString& path)
 {
     const QString folder = QFileInfo(path).absolutePath();
     if (reason == EEXIST)
-        return u"a file of that name exists already"_s;
+        return Words::tr("a file of that name exists already");
     if (reason == EISDIR)
-        return u"it is a folder"_s;
+        return Words::tr("it is a folder");
     if (reason == ENOENT && !QFileInfo::exists(folder))
-        return u"the folder “%1” does not exist"_s.arg(folder);
+        return Words::tr("the folder “%1” does not exist").arg(folder);
     return QString::fromLocal8Bit(std::generic_category().message(reason).c_str());
 }
 
@@ -232,7 +232,7 @@ Result<void> AtomicFile::opened(int descriptor)
 Result<void> AtomicFile::failed(int reason)
 {
     m_failure = Error {reason == EEXIST ? Error::Kind::Exists : Error::Kind::Failed,
-        u"Couldn't write “%1”: %2."_s.arg(m_path, reasonText(reason, m_path))};
+        Words::tr("Couldn't write “%1”: %2.").arg(m_path, reasonText(reason, m_path))};
     return *m_failure;
 }
 

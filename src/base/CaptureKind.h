@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/Words.h"
+
 #include <QString>
 
 #include <array>
@@ -14,20 +16,20 @@ enum class CaptureKind { Region, Window, Screen, Delayed, Text };
 struct CaptureKindInfo {
     CaptureKind kind;
     QLatin1String key; ///< Stored form; also the end of its shortcut's preference key.
-    QLatin1String title; ///< %1 stands for the delay in seconds.
+    const char* title; ///< In English, for Words::tr(). %1 stands for the delay in seconds.
     QLatin1String symbol; ///< Name of its icon.
 };
 
 inline constexpr std::array<CaptureKindInfo, 5> captureKinds {{
-    {CaptureKind::Region, QLatin1String("region"), QLatin1String("Capture region"),
+    {CaptureKind::Region, QLatin1String("region"), QT_TRANSLATE_NOOP("Words", "Capture region"),
         QLatin1String("rectangle.dashed")},
-    {CaptureKind::Window, QLatin1String("window"), QLatin1String("Capture window"),
+    {CaptureKind::Window, QLatin1String("window"), QT_TRANSLATE_NOOP("Words", "Capture window"),
         QLatin1String("macwindow")},
-    {CaptureKind::Screen, QLatin1String("screen"), QLatin1String("Capture screen"),
+    {CaptureKind::Screen, QLatin1String("screen"), QT_TRANSLATE_NOOP("Words", "Capture screen"),
         QLatin1String("display")},
-    {CaptureKind::Delayed, QLatin1String("delayed"), QLatin1String("Delayed capture (%1 s)"),
-        QLatin1String("timer")},
-    {CaptureKind::Text, QLatin1String("text"), QLatin1String("Copy text"),
+    {CaptureKind::Delayed, QLatin1String("delayed"),
+        QT_TRANSLATE_NOOP("Words", "Delayed capture (%1 s)"), QLatin1String("timer")},
+    {CaptureKind::Text, QLatin1String("text"), QT_TRANSLATE_NOOP("Words", "Copy text"),
         QLatin1String("text.viewfinder")},
 }};
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/Control.h"
 
+#include "base/Words.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -45,16 +47,17 @@ Result<QJsonObject> objectFrom(const QByteArray& line)
     QJsonParseError error;
     const auto document = QJsonDocument::fromJson(line, &error);
     if (error.error != QJsonParseError::NoError)
-        return Error::failed(u"The line is not JSON: %1."_s.arg(error.errorString()));
+        return Error::failed(Words::tr("The line is not JSON: %1.").arg(error.errorString()));
     if (!document.isObject())
-        return Error::failed(u"The line is not a JSON object."_s);
+        return Error::failed(Words::tr("The line is not a JSON object."));
     return document.object();
 }
 
 /// As much of a value as fits a message.
 QString quoted(const QJsonValue& value)
 {
-    return value.isString() ? u"“%1”"_s.arg(value.toString().left(40)) : u"that is no text"_s;
+    return value.isString() ? Words::tr("“%1”").arg(value.toString().left(40))
+                            : Words::tr("that is no text");
 }
 
 CaptureReport reportFrom(const QJsonObject& object, CaptureReport::Outcome outcome)
@@ -110,11 +113,11 @@ Result<Control::Request> pathsFrom(const QJsonArray& items)
     Wanted wanted;
     for (const auto& item : items) {
         if (!item.isString())
-            return Error::failed(u"A path is a text."_s);
+            return Error::failed(Words::tr("A path is a text."));
         wanted.paths << item.toString();
     }
     if (wanted.paths.isEmpty())
-        return Error::failed(u"There is nothing to open."_s);
+        return Error::failed(Words::tr("There is nothing to open."));
     return Control::Request(wanted);
 }
 
@@ -156,7 +159,7 @@ QByteArray Control::toLine(const Answer& answer)
     if (line.size() - 1 <= longestAnswer)
         return line;
     return lineOf(AnswerWriter()(CaptureReport {.outcome = CaptureReport::Outcome::Failed,
-        .reason = u"The answer is too long to be sent."_s}));
+        .reason = Words::tr("The answer is too long to be sent.")}));
 }
 
 Result<Control::Request> Control::requestFrom(const QByteArray& line)
@@ -178,14 +181,14 @@ Result<Control::Request> Control::requestFrom(const QByteArray& line)
     if (command == u"edit"_s)
         return pathsFrom<Edit>(object->value(u"paths").toArray());
     if (command != u"capture"_s)
-        return Error::failed(u"There is no command %1."_s.arg(quoted(command)));
+        return Error::failed(Words::tr("There is no command %1.").arg(quoted(command)));
     const auto kind = object->value(u"kind");
     const auto wait = object->value(u"wait");
     const auto known = captureKind(kind.toString());
     if (!known)
-        return Error::failed(u"There is no capture %1."_s.arg(quoted(kind)));
+        return Error::failed(Words::tr("There is no capture %1.").arg(quoted(kind)));
     if (!wait.isUndefined() && !wait.isBool())
-        return Error::failed(u"“wait” is either true or false."_s);
+        return Error::failed(Words::tr("“wait” is either true or false."));
     return Request(Capture {*known, wait.toBool()});
 }
 
@@ -202,7 +205,7 @@ Result<Control::Answer> Control::answerFrom(const QByteArray& line)
     for (const auto& info : outcomes)
         if (outcome == info.key)
             return Answer(reportFrom(*object, info.outcome));
-    return Error::failed(u"The line has no known outcome."_s);
+    return Error::failed(Words::tr("The line has no known outcome."));
 }
 
 CaptureReport Control::reportOf(const Result<CaptureReport>& result)

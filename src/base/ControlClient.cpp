@@ -3,6 +3,7 @@
 #include "base/ControlClient.h"
 
 #include "base/LocalSocket.h"
+#include "base/Words.h"
 
 #include <QDeadlineTimer>
 
@@ -11,8 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -67,7 +66,7 @@ Result<Control::Answer> ControlClient::ask(const Control::Request& request)
     auto answer = Control::answerFrom(*line);
     if (!answer)
         return Error::failed(
-            u"Pixmallow's answer was not understood. %1"_s.arg(answer.error().message));
+            Words::tr("Pixmallow's answer was not understood. %1").arg(answer.error().message));
     return answer;
 }
 
@@ -78,16 +77,16 @@ Result<QByteArray> ControlClient::receiveLine()
     while (line.size() <= Control::longestAnswer) {
         const auto count = receive(m_socket, chunk);
         if (count < 0 && errno == EAGAIN)
-            return Error::failed(
-                u"Pixmallow runs but gave no answer within %1 seconds."_s.arg(patience.count()));
+            return Error::failed(Words::tr("Pixmallow runs but gave no answer within %1 seconds.")
+                                     .arg(patience.count()));
         if (count <= 0)
-            return Error::failed(u"Pixmallow ended before it answered."_s);
+            return Error::failed(Words::tr("Pixmallow ended before it answered."));
         const auto searched = line.size();
         line.append(chunk.data(), count);
         if (const auto end = line.indexOf('\n', searched); end >= 0)
             return line.first(end);
     }
-    return Error::failed(u"Pixmallow's answer does not end."_s);
+    return Error::failed(Words::tr("Pixmallow's answer does not end."));
 }
 
 Result<void> ControlClient::waitForEnd(std::chrono::milliseconds most)
@@ -103,7 +102,7 @@ Result<void> ControlClient::waitForEnd(std::chrono::milliseconds most)
             return {};
     }
     return Error::failed(
-        u"Pixmallow has not ended within %1 seconds."_s.arg(double(most.count()) / 1000));
+        Words::tr("Pixmallow has not ended within %1 seconds.").arg(double(most.count()) / 1000));
 }
 
 Result<void> askResidentToQuitAndWait(const Folders& folders, std::chrono::milliseconds most)

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileLock.h"
 
+#include "base/Words.h"
+
 #include <QFile>
 
 #include <fcntl.h>
 #include <sys/file.h>
 
 #include <cerrno>
-
-using namespace Qt::StringLiterals;
 
 Result<Descriptor> lockFile(const QString& path)
 {
@@ -18,5 +18,5 @@ Result<Descriptor> lockFile(const QString& path)
     if (file && flock(file.number(), LOCK_EX | LOCK_NB) == 0)
         return file;
     const auto kind = errno == EWOULDBLOCK ? Error::Kind::Exists : Error::Kind::Failed;
-    return Error {kind, u"Couldn't lock “%1”: %2."_s.arg(path, systemMessage(errno))};
+    return Error {kind, Words::tr("Couldn't lock “%1”: %2.").arg(path, systemMessage(errno))};
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/Folders.h"
 
+#include "base/Words.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -61,7 +63,7 @@ Folders Folders::ofUser()
 Result<void> ensurePrivateFolder(const QString& path)
 {
     const auto refuse = [&](const QString& reason) {
-        return Error::failed(u"Couldn't use the folder “%1”: %2."_s.arg(path, reason));
+        return Error::failed(Words::tr("Couldn't use the folder “%1”: %2.").arg(path, reason));
     };
     const QByteArray name = QFile::encodeName(QDir::cleanPath(path));
     struct stat named { };
@@ -70,9 +72,9 @@ Result<void> ensurePrivateFolder(const QString& path)
         || stat(name.constData(), &folder) != 0)
         return refuse(QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
     if (!S_ISDIR(folder.st_mode))
-        return refuse(u"it is a file"_s);
+        return refuse(Words::tr("it is a file"));
     if (named.st_uid != geteuid() || folder.st_uid != geteuid())
-        return refuse(u"it belongs to another user"_s);
+        return refuse(Words::tr("it belongs to another user"));
     if ((folder.st_mode & 077) != 0 && chmod(name.constData(), 0700) != 0)
         return refuse(QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
     return {};

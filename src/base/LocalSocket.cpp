@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/LocalSocket.h"
 
+#include "base/Words.h"
+
 #include <QFile>
 
 #include <sys/socket.h>
@@ -11,13 +13,11 @@
 #include <cerrno>
 #include <cstring>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 Error refuse(const QString& path, const QString& reason)
 {
-    return Error::failed(u"Couldn't use the socket “%1”: %2."_s.arg(path, reason));
+    return Error::failed(Words::tr("Couldn't use the socket “%1”: %2.").arg(path, reason));
 }
 
 Result<sockaddr_un> addressOf(const QString& path)
@@ -28,7 +28,8 @@ Result<sockaddr_un> addressOf(const QString& path)
     constexpr auto longest = qsizetype(sizeof address.sun_path) - 1;
     if (name.size() > longest)
         return refuse(path,
-            u"its path has %1 bytes and the system allows %2; a shorter XDG_RUNTIME_DIR helps"_s
+            Words::tr(
+                "its path has %1 bytes and the system allows %2; a shorter XDG_RUNTIME_DIR helps")
                 .arg(name.size())
                 .arg(longest));
     std::memcpy(address.sun_path, name.constData(), std::size_t(name.size()));
@@ -80,7 +81,7 @@ Result<std::optional<Descriptor>> LocalSocket::connect(
         return refuse(path, systemMessage(errno));
     }
     if (!isSameUser(socket))
-        return refuse(path, u"it belongs to another user"_s);
+        return refuse(path, Words::tr("it belongs to another user"));
     return std::optional(std::move(socket));
 }
 

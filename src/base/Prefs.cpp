@@ -5,6 +5,7 @@
 #include "base/AtomicFile.h"
 #include "base/FileLock.h"
 #include "base/SetAside.h"
+#include "base/Words.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -49,9 +50,9 @@ Result<std::optional<QJsonObject>> readContent(const QString& path)
     if (!file.exists())
         return std::optional(QJsonObject());
     if (!QFileInfo(path).isFile()) // Opening a pipe would wait for somebody to write into it.
-        return Error::failed(u"Couldn't read “%1”: it is no file."_s.arg(path));
+        return Error::failed(Words::tr("Couldn't read “%1”: it is no file.").arg(path));
     if (!file.open(QIODevice::ReadOnly))
-        return Error::failed(u"Couldn't read “%1”: %2."_s.arg(path, file.errorString()));
+        return Error::failed(Words::tr("Couldn't read “%1”: %2.").arg(path, file.errorString()));
     const QByteArray text = file.readAll();
     const auto document = QJsonDocument::fromJson(text);
     if (!document.isObject() && !text.trimmed().isEmpty())
@@ -134,7 +135,7 @@ Result<void> Prefs::setValue(const AnyPrefKey& key, const QVariant& value)
 {
     if (value.metaType() != key.type)
         return Error::failed(
-            u"The preference “%1” takes values of another type."_s.arg(QLatin1String(key.name)));
+            tr("The preference “%1” takes values of another type.").arg(QLatin1String(key.name)));
     store(key, key.toJson(value));
     return {};
 }
@@ -203,8 +204,8 @@ Result<void> Prefs::flush()
     auto locked = lock(m_folder);
     if (!locked)
         return Error::failed(locked.error().kind == Error::Kind::Exists
-                ? u"Couldn't write “%1”: another program is writing it."_s.arg(m_path)
-                : u"Couldn't write “%1”: its folder takes no files."_s.arg(m_path));
+                ? tr("Couldn't write “%1”: another program is writing it.").arg(m_path)
+                : tr("Couldn't write “%1”: its folder takes no files.").arg(m_path));
     const auto content = recoveredContent();
     if (!content)
         return content.error();

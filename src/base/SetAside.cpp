@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/SetAside.h"
 
+#include "base/Words.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -15,7 +17,7 @@ Result<void> setAside(const QString& path)
     QString free = name;
     for (int i = 2; !QFile::rename(path, free); ++i) {
         if (!QFileInfo::exists(free))
-            return Error::failed(u"Couldn't set the damaged file “%1” aside."_s.arg(path));
+            return Error::failed(Words::tr("Couldn't set the damaged file “%1” aside.").arg(path));
         free = name + u'-' + QString::number(i);
     }
     return {};

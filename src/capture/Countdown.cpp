@@ -4,8 +4,6 @@
 
 #include "capture/CountdownView.h"
 
-using namespace Qt::StringLiterals;
-
 Countdown::Countdown(const Surroundings& surroundings, CallLater wait)
     : m_surroundings(surroundings)
     , m_callLater(std::move(wait))
@@ -18,7 +16,7 @@ Pending<void> Countdown::run(int seconds)
 {
     stop();
     m_model = CountdownModel(seconds);
-    m_panel = std::make_unique<FloatingPanel>(m_surroundings, u"Countdown"_s);
+    m_panel = std::make_unique<FloatingPanel>(m_surroundings, tr("Countdown"));
     m_view = new CountdownView(m_surroundings.themes, m_model.remaining());
     connect(m_view, &CountdownView::clicked, this, [this] { m_model.cancel(); });
     m_panel->host(m_view);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "capture/CountdownView.h"
 
+#include "base/Words.h"
 #include "widgets/Accessible.h"
 #include "widgets/Motion.h"
 
@@ -23,7 +24,10 @@ constexpr QRectF captionBox(
     0, ring.bottom() + Space::tiny, side, side - ring.bottom() - Space::inner);
 constexpr double whenCancelled = 0.4; // Like a control that is disabled.
 
-const QString caption = u"Click to cancel"_s;
+QString caption()
+{
+    return Words::tr("Click to cancel");
+}
 
 /// The painter enlarges.
 QFont unscaled(const Theme& theme, TextStyle style)
@@ -56,7 +60,7 @@ CountdownView::CountdownView(const Themes& themes, int remaining, QWidget* paren
 void CountdownView::setRemaining(int seconds)
 {
     m_before = std::exchange(m_remaining, seconds);
-    setAccessibleName(u"%1, %2"_s.arg(seconds).arg(caption));
+    setAccessibleName(u"%1, %2"_s.arg(seconds).arg(caption()));
     if (isVisible())
         Accessible::announce(*this);
     m_change.start();
@@ -85,7 +89,7 @@ void CountdownView::paintEvent(QPaintEvent*)
     paintNumber(painter, m_remaining, m_before == m_remaining ? 1 : changed);
     painter.setFont(unscaled(theme, TextStyle::Caption));
     painter.setPen(theme.secondary);
-    painter.drawText(captionBox, Qt::AlignHCenter | Qt::AlignVCenter, caption);
+    painter.drawText(captionBox, Qt::AlignHCenter | Qt::AlignVCenter, caption());
 }
 
 /// All of the card is as much larger as its letters.

@@ -5,6 +5,7 @@
 #include "base/AtomicFile.h"
 #include "base/FileNames.h"
 #include "base/PngWriter.h"
+#include "base/Words.h"
 #include "capture/Pixels.h"
 
 #include <QBuffer>
@@ -22,7 +23,10 @@ namespace {
 constexpr int jpegQuality = 92;
 constexpr double inchesPerMetre = 1 / 0.0254;
 
-const QString encodingFailed = u"Couldn't encode the image."_s;
+Error encodingFailed()
+{
+    return Error::failed(Words::tr("Couldn't encode the image."));
+}
 
 Result<QByteArray> encodePng(const QImage& image, double scale)
 {
@@ -35,7 +39,7 @@ Result<QByteArray> encodePng(const QImage& image, double scale)
     };
     const auto written = writePng(rows, scale, sink);
     if (!written)
-        return Error::failed(encodingFailed);
+        return encodingFailed();
     return bytes;
 }
 
@@ -63,7 +67,7 @@ Result<QByteArray> encodeJpeg(const QImage& image, double scale)
     QImageWriter writer(&buffer, "jpeg");
     writer.setQuality(jpegQuality);
     if (!buffer.open(QIODevice::WriteOnly) || !writer.write(flat))
-        return Error::failed(encodingFailed);
+        return encodingFailed();
     return bytes;
 }
 
@@ -121,7 +125,7 @@ void Files::ensureFolder(const QString& folder)
 Result<QByteArray> Files::encode(const QImage& image, ImageType type, double scale)
 {
     if (image.isNull())
-        return Error::failed(encodingFailed);
+        return encodingFailed();
     return type == ImageType::Jpeg ? encodeJpeg(image, scale) : encodePng(image, scale);
 }
 

@@ -36,10 +36,10 @@ PermissionView::PermissionView(const Sources& sources, QWidget* parent)
     , m_title(new TextLabel(sources.themes, TextStyle::Title2))
     , m_text(new TextLabel(
           sources.themes, TextStyle::Body, TextLabel::Role::Secondary, TextLabel::Lines::Wrapped))
-    , m_start(GlassButton::ofText(sources.themes, u"Get Started"_s, GlassButton::Look::Prominent))
+    , m_start(GlassButton::ofText(sources.themes, tr("Get Started"), GlassButton::Look::Prominent))
     , m_settings(GlassButton::ofText(
-          sources.themes, u"Open System Settings"_s, GlassButton::Look::Prominent))
-    , m_restart(GlassButton::ofText(sources.themes, u"Restart Pixmallow"_s))
+          sources.themes, tr("Open System Settings"), GlassButton::Look::Prominent))
+    , m_restart(GlassButton::ofText(sources.themes, tr("Restart Pixmallow")))
 {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Space::tiny);
@@ -87,7 +87,7 @@ void PermissionView::refresh()
 
 void PermissionView::tell()
 {
-    const QString title = m_granted ? u"You're all set"_s : u"Allow screen capture"_s;
+    const QString title = m_granted ? tr("You're all set") : tr("Allow screen capture");
     const QString text = inLines(explanation());
     if (m_title->text() != title) {
         m_hero->setSymbol(m_granted ? u"checkmark.seal.fill"_s : u"camera.viewfinder"_s);

@@ -7,8 +7,6 @@
 #include <QCoreApplication>
 #include <QCursor>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QSize contentSize(460, 420);
@@ -38,7 +36,7 @@ void PermissionWindow::relaunch()
 void PermissionWindow::make()
 {
     m_view = std::make_unique<PermissionView>(m_sources);
-    m_view->setWindowTitle(u"Welcome to Pixmallow"_s);
+    m_view->setWindowTitle(tr("Welcome to Pixmallow"));
     m_view->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
         | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     m_view->setFixedSize(contentSize.expandedTo(m_view->sizeHint())); // Large letters.

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "capture/ShotFile.h"
 
+#include "base/Words.h"
+
 #include <QFileInfo>
 #include <QImageReader>
 
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,22 +37,23 @@ Result<Shot> readShot(const QString& path)
 {
     const QFileInfo file(path);
     if (!file.exists())
-        return Error::failed(u"There is no file “%1”."_s.arg(path));
+        return Error::failed(Words::tr("There is no file “%1”.").arg(path));
     if (!file.isFile())
-        return Error::failed(u"“%1” is not a file."_s.arg(path));
+        return Error::failed(Words::tr("“%1” is not a file.").arg(path));
     if (!file.isReadable())
-        return Error::failed(u"“%1” may not be read."_s.arg(path));
+        return Error::failed(Words::tr("“%1” may not be read.").arg(path));
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (isTooLarge(size))
-        return Error::failed(u"“%1” is too large to be opened: it has %2 × %3 pixels."_s.arg(path)
+        return Error::failed(Words::tr("“%1” is too large to be opened: it has %2 × %3 pixels.")
+                                 .arg(path)
                                  .arg(size.width())
                                  .arg(size.height()));
     const QImage image = reader.read();
     if (image.isNull())
         return Error::failed(
-            u"“%1” is no picture that can be read: %2."_s.arg(path, reader.errorString()));
+            Words::tr("“%1” is no picture that can be read: %2.").arg(path, reader.errorString()));
     return Shot {image, scaleOf(image), file.fileName(), std::nullopt};
 }

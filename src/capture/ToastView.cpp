@@ -4,6 +4,7 @@
 
 #include "widgets/Enlarged.h"
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 #include "widgets/TextLines.h"
 
 #include <QPainter>
@@ -28,7 +29,8 @@ ToastView::ToastView(const Themes& themes, const ToastMessage& toast, QWidget* p
     , m_toast(toast)
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(textLeft, Space::group, Space::group, Space::group);
+    column->setContentsMargins(
+        mirrored(QMargins(textLeft, Space::group, Space::group, Space::group), *this));
     column->setSpacing(Space::tiny / 2);
     column->addStretch();
     auto* title = new TextLabel(themes, TextStyle::Headline);
@@ -56,7 +58,7 @@ QSize ToastView::sizeHint() const
 void ToastView::paintEvent(QPaintEvent*)
 {
     const Theme& theme = m_themes.current();
-    const QRectF box(Space::group, 0, symbolSize, height());
+    const QRectF box = mirrored(QRectF(Space::group, 0, symbolSize, height()), *this);
     QPainter painter(this);
     Icons::paint(painter, m_toast.symbol, box, symbolSize,
         m_toast.symbol == failureSymbol ? theme.failure : theme.accentSymbol);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Arguments.h"
 
+#include "base/Words.h"
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -27,25 +29,27 @@ Result<ShotTarget> shotTarget(const QCommandLineParser& parser)
     const int chosen = int(parser.isSet(u"screen"_s)) + int(parser.isSet(u"window"_s))
         + int(parser.isSet(u"area"_s));
     if (chosen > 1)
-        return Error::failed(u"Only one of --screen, --window and --area can be given."_s);
+        return Error::failed(Words::tr("Only one of --screen, --window and --area can be given."));
     if (parser.isSet(u"screen"_s)) {
         bool valid = false;
         const int number = screen.toInt(&valid);
         if (!valid || number < 1)
-            return Error::failed(u"--screen takes a number from 1, not '%1'."_s.arg(screen));
+            return Error::failed(
+                Words::tr("--screen takes a number from 1, not '%1'.").arg(screen));
         return ShotTarget(ScreenNumber {number});
     }
     if (parser.isSet(u"window"_s)) {
         const auto id = windowNumber(window);
         if (!id)
-            return Error::failed(u"--window takes a number as 'pixmallow list windows' shows, "
-                                 "not '%1'."_s.arg(window));
+            return Error::failed(
+                Words::tr("--window takes a number as 'pixmallow list windows' shows, not '%1'.")
+                    .arg(window));
         return ShotTarget(WindowNumber {*id});
     }
     if (parser.isSet(u"area"_s)) {
         const auto rect = parseArea(area);
         if (!rect)
-            return Error::failed(u"--area takes X,Y,WxH in pixels, not '%1'."_s.arg(area));
+            return Error::failed(Words::tr("--area takes X,Y,WxH in pixels, not '%1'.").arg(area));
         return ShotTarget(*rect);
     }
     return ShotTarget(WholeDesktop {});
@@ -60,14 +64,15 @@ Result<Request> shot(const QCommandLineParser& parser)
     ShotRequest request {*target, parser.value(u"output"_s), parser.isSet(u"cursor"_s),
         parser.isSet(u"shadow"_s), parser.isSet(u"json"_s)};
     if (parser.isSet(u"output"_s) && request.output.isEmpty())
-        return Error::failed(u"--output needs a file name, or - for standard output."_s);
+        return Error::failed(Words::tr("--output needs a file name, or - for standard output."));
     if (request.output == u"-"_s && request.json)
-        return Error::failed(u"--json and --output - both want standard output."_s);
+        return Error::failed(Words::tr("--json and --output - both want standard output."));
     if (request.shadow && !std::holds_alternative<WindowNumber>(request.target))
-        return Error::failed(u"--shadow goes with --window."_s);
+        return Error::failed(Words::tr("--shadow goes with --window."));
     const QString extension = QFileInfo(request.output).suffix().toLower();
     if (extension == u"jpg"_s || extension == u"jpeg"_s)
-        return Error::failed(u"'shot' writes PNG files; choose a name that ends in .png."_s);
+        return Error::failed(
+            Words::tr("'shot' writes PNG files; choose a name that ends in .png."));
     return Request(std::move(request));
 }
 
@@ -78,12 +83,12 @@ Result<Request> list(const QCommandLineParser& parser)
         {u"history"_s, What::History}};
     const auto what = known.constFind(parser.positionalArguments().value(0));
     if (what == known.cend())
-        return Error::failed(u"'list' takes 'screens', 'windows' or 'history'."_s);
+        return Error::failed(Words::tr("'list' takes 'screens', 'windows' or 'history'."));
     ListRequest request {*what, parser.isSet(u"json"_s)};
     if (parser.isSet(u"search"_s))
         request.search = parser.value(u"search"_s);
     if (request.search && request.what != What::History)
-        return Error::failed(u"--search goes with 'list history'."_s);
+        return Error::failed(Words::tr("--search goes with 'list history'."));
     return Request(std::move(request));
 }
 
@@ -95,15 +100,17 @@ Result<Request> capture(const QCommandLineParser& parser)
     QStringList kinds;
     for (const auto& info : captureKinds)
         kinds.push_back(info.key);
-    return Error::failed(u"'capture' takes one of %1%2."_s.arg(
-        kinds.join(u", "_s), word.isEmpty() ? QString() : u", not '%1'"_s.arg(word)));
+    const QString known = kinds.join(u", "_s);
+    return Error::failed(word.isEmpty()
+            ? Words::tr("'capture' takes one of %1.").arg(known)
+            : Words::tr("'capture' takes one of %1, not '%2'.").arg(known, word));
 }
 
 Result<Request> pin(const QCommandLineParser& parser)
 {
     const auto files = parser.positionalArguments();
     if (files.isEmpty() || files.contains(QString()))
-        return Error::failed(u"'pin' takes one or more image files."_s);
+        return Error::failed(Words::tr("'pin' takes one or more image files."));
     return Request(PinRequest {files});
 }
 
@@ -111,14 +118,14 @@ Result<Request> edit(const QCommandLineParser& parser)
 {
     const auto files = parser.positionalArguments();
     if (files.isEmpty() || files.contains(QString()))
-        return Error::failed(u"'edit' takes one or more image files."_s);
+        return Error::failed(Words::tr("'edit' takes one or more image files."));
     return Request(EditRequest {files});
 }
 
 Result<Request> text(const QCommandLineParser& parser)
 {
     if (parser.positionalArguments().isEmpty())
-        return Error::failed(u"'text' takes one or more picture files."_s);
+        return Error::failed(Words::tr("'text' takes one or more picture files."));
     return Request(TextRequest {parser.positionalArguments(), parser.isSet(u"json"_s)});
 }
 
@@ -170,10 +177,10 @@ Result<Request> parse(const Command& command, const QStringList& words)
         return Error::failed(parser.errorText());
     const auto given = parser.positionalArguments();
     if (given.size() > command.words)
-        return Error::failed(u"Unexpected argument '%1'."_s.arg(given[command.words]));
+        return Error::failed(Words::tr("Unexpected argument '%1'.").arg(given[command.words]));
     for (const auto& option : command.options)
         if (parser.values(option).size() > 1)
-            return Error::failed(u"--%1 is given twice."_s.arg(option.names().first()));
+            return Error::failed(Words::tr("--%1 is given twice.").arg(option.names().first()));
     return command.read(parser);
 }
 
@@ -192,7 +199,7 @@ Result<Request> parseArguments(const QStringList& arguments)
     for (const auto& command : commands(arguments))
         if (command.name == (isNamed ? first : QString()))
             return parse(command, isNamed ? rest : arguments);
-    return Error::failed(u"Unknown command '%1'."_s.arg(first));
+    return Error::failed(Words::tr("Unknown command '%1'.").arg(first));
 }
 
 QList<CommandWords> commandWords()
@@ -220,7 +227,7 @@ std::optional<QRect> parseArea(const QString& text)
 
 QString helpText()
 {
-    return uR"(Pixmallow takes screenshots.
+    return Words::tr(R"(Pixmallow takes screenshots.
 
 usage:
   pixmallow [--replace] [--background]
@@ -292,5 +299,5 @@ doctor Examines how well Pixmallow can work here and says what to do about what 
 
 Exit code: 0 done, 1 cancelled by the user, 2 failed, 3 another capture is
 running, 64 wrong arguments.
-)"_s;
+)");
 }

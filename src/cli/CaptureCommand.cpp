@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "base/Words.h"
 #include "cli/Commands.h"
 #include "cli/Print.h"
 #include "cli/ResidentProgram.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,7 +17,7 @@ Result<void> printReport(const CaptureReport& report, bool json)
     if (!report.reason.isEmpty())
         complain(report.reason);
     else if (report.outcome == CaptureReport::Outcome::Busy)
-        complain(u"Another capture is running."_s);
+        complain(Words::tr("Another capture is running."));
     if (json)
         return print(QJsonObject::fromVariantMap(Control::valuesOf(report)));
     if (!report.text.isEmpty())

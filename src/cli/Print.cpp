@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Print.h"
 
+#include "base/Words.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -15,8 +17,8 @@ Result<void> print(const QByteArray& text)
 {
     const auto length = std::size_t(text.size());
     if (std::fwrite(text.constData(), 1, length, stdout) != length || std::fflush(stdout) != 0)
-        return Error::failed(u"Cannot write to standard output: %1."_s.arg(
-            QString::fromLocal8Bit(std::strerror(errno))));
+        return Error::failed(Words::tr("Cannot write to standard output: %1.")
+                                 .arg(QString::fromLocal8Bit(std::strerror(errno))));
     return {};
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ResidentProgram.h"
 
+#include "base/Words.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -31,13 +33,14 @@ Result<QByteArray> findProgram()
         path = QStandardPaths::findExecutable(name);
     if (path.isEmpty())
         return Error::failed(
-            u"The program '%1' is neither beside this one nor in PATH."_s.arg(name));
+            Words::tr("The program '%1' is neither beside this one nor in PATH.").arg(name));
     return QFile::encodeName(path);
 }
 
 Error cannotStart(const QByteArray& program, const QString& reason)
 {
-    return Error::failed(u"Couldn't start '%1': %2."_s.arg(QFile::decodeName(program), reason));
+    return Error::failed(
+        Words::tr("Couldn't start '%1': %2.").arg(QFile::decodeName(program), reason));
 }
 
 /// The end of argv that the system's calls expect; the words must outlive it.
@@ -95,10 +98,10 @@ QString failureOf(pid_t child)
     if (waitpid(child, &status, WNOHANG) != child || status == 0)
         return {};
     return WIFEXITED(status)
-        ? u"it ended at once with exit code %1; 'pixmallow' in a terminal may tell why"_s.arg(
-            WEXITSTATUS(status))
-        : u"it ended at once by signal %1; 'pixmallow' in a terminal may tell why"_s.arg(
-            WTERMSIG(status));
+        ? Words::tr("it ended at once with exit code %1; 'pixmallow' in a terminal may tell why")
+              .arg(WEXITSTATUS(status))
+        : Words::tr("it ended at once by signal %1; 'pixmallow' in a terminal may tell why")
+              .arg(WTERMSIG(status));
 }
 
 } // namespace
@@ -138,5 +141,5 @@ Result<ControlClient> ResidentProgram::reach(const Folders& folders)
         }
     }
     return cannotStart(
-        program, u"it could not be asked within %1 seconds"_s.arg(longestStart.count()));
+        program, Words::tr("it could not be asked within %1 seconds").arg(longestStart.count()));
 }

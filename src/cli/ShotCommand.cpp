@@ -3,6 +3,7 @@
 #include "base/AtomicFile.h"
 #include "base/FileNames.h"
 #include "base/PngWriter.h"
+#include "base/Words.h"
 #include "cli/Commands.h"
 #include "cli/Print.h"
 #include "platform/Platform.h"
@@ -42,7 +43,7 @@ Result<Taken> takeArea(
         desktop |= display.native;
     const QRect area = native & desktop;
     if (area.isEmpty())
-        return Error::failed(u"The area lies outside all screens."_s);
+        return Error::failed(Words::tr("The area lies outside all screens."));
     auto picture = platform.capture->area(area, ownWindows(windows), pointer).wait();
     if (!picture)
         return picture.error();
@@ -55,7 +56,7 @@ Result<Taken> takeWindow(CapturePlatform& platform, WindowId id, const QList<Win
     const auto window = std::find_if(
         windows.begin(), windows.end(), [id](const Window& each) { return each.id == id; });
     if (window == windows.end())
-        return Error::failed(u"There is no window 0x%1."_s.arg(qulonglong(id), 0, 16));
+        return Error::failed(Words::tr("There is no window 0x%1.").arg(qulonglong(id), 0, 16));
     auto picture = platform.capture
                        ->window(id, request.shadow ? WindowShadow::Kept : WindowShadow::Dropped,
                            request.cursor ? Pointer::Drawn : Pointer::Hidden)
@@ -78,12 +79,12 @@ Result<Taken> take(CapturePlatform& platform, const ShotRequest& request)
         return takeArea(platform, *area, *windows, pointer);
     const auto displays = platform.displays->list();
     if (displays.isEmpty())
-        return Error::failed(u"There is no screen to capture."_s);
+        return Error::failed(Words::tr("There is no screen to capture."));
     if (const auto* screen = std::get_if<ScreenNumber>(&request.target)) {
         if (screen->number > displays.size())
-            return Error::failed(displays.size() == 1
-                    ? u"There is only one screen."_s
-                    : u"There are only %1 screens."_s.arg(displays.size()));
+            return Error::failed(displays.size() == 1 ? Words::tr("There is only one screen.")
+                                                      : Words::tr("There are only %n screens.",
+                                                          nullptr, Words::count(displays.size())));
         return takeArea(platform, displays[screen->number - 1].native, *windows, pointer);
     }
     QRect desktop;
@@ -95,13 +96,15 @@ Result<Taken> take(CapturePlatform& platform, const ShotRequest& request)
 Result<void> writeToStandardOutput(const Taken& taken)
 {
     if (isatty(STDOUT_FILENO))
-        return Error::failed(u"Standard output is a terminal; a picture is not written to it."_s);
+        return Error::failed(
+            Words::tr("Standard output is a terminal; a picture is not written to it."));
     return writePng(*taken.picture, taken.scale, [](std::span<const std::uint8_t> bytes) {
         while (!bytes.empty()) {
             const ssize_t written = write(STDOUT_FILENO, bytes.data(), bytes.size());
             if (written < 0 && errno != EINTR)
-                return Result<void>(Error::failed(u"Cannot write to standard output: %1."_s.arg(
-                    QString::fromLocal8Bit(std::strerror(errno)))));
+                return Result<void>(
+                    Error::failed(Words::tr("Cannot write to standard output: %1.")
+                                      .arg(QString::fromLocal8Bit(std::strerror(errno)))));
             bytes = bytes.subspan(std::size_t(std::max<ssize_t>(written, 0)));
         }
         return Result<void>();

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
+#include "base/Language.h"
+#include "base/Words.h"
 #include "cli/Commands.h"
 #include "cli/Print.h"
 
 #include <QCoreApplication>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -87,10 +87,11 @@ int fail(const Error& error, ExitCode code)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
+    Language::install();
     const auto request = parseArguments(QCoreApplication::arguments().mid(1));
     if (!request) {
         Error error = request.error();
-        error.message += u" See 'pixmallow --help'."_s;
+        error.message = Words::tr("%1 See 'pixmallow --help'.").arg(error.message);
         return fail(error, WrongArguments);
     }
     const auto code = std::visit([](const auto& each) { return run(each); }, *request);

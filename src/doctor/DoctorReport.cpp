@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "doctor/DoctorReport.h"
 
+#include "base/Words.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -13,8 +15,8 @@ QString DoctorReport::toText(const QList<DoctorCheck>& checks)
 {
     QString text;
     for (const auto& check : checks) {
-        text
-            += u"%1  %2: %3\n"_s.arg(check.isOk() ? u"ok "_s : u"FIX"_s, check.title, check.detail);
+        text += u"%1  %2: %3\n"_s.arg(
+            check.isOk() ? Words::tr("ok ") : Words::tr("FIX"), check.title, check.detail);
         if (!check.isOk())
             text += u"     %1\n"_s.arg(check.advice);
     }
@@ -25,8 +27,9 @@ QString DoctorReport::conclusion(const QList<DoctorCheck>& checks)
 {
     const auto wrong = std::ranges::count_if(checks, std::not_fn(&DoctorCheck::isOk));
     if (wrong == 0)
-        return u"All is well."_s;
-    return wrong == 1 ? u"One thing needs attention."_s : u"%1 things need attention."_s.arg(wrong);
+        return Words::tr("All is well.");
+    return wrong == 1 ? Words::tr("One thing needs attention.")
+                      : Words::tr("%n things need attention.", nullptr, int(wrong));
 }
 
 QJsonArray DoctorReport::toJson(const QList<DoctorCheck>& checks)
@@ -42,7 +45,7 @@ Result<QList<DoctorCheck>> DoctorReport::fromJson(const QByteArray& text)
 {
     const auto document = QJsonDocument::fromJson(text);
     if (!document.isArray())
-        return Error::failed(u"The examination ended without a report."_s);
+        return Error::failed(Words::tr("The examination ended without a report."));
     QList<DoctorCheck> checks;
     for (const auto& value : document.array()) {
         const auto check = value.toObject();

@@ -3,6 +3,7 @@
 #include "doctor/Examination.h"
 
 #include "base/ControlClient.h"
+#include "base/Words.h"
 #include "doctor/FolderProbe.h"
 #include "doctor/ScreenProbe.h"
 #include "update/HttpGet.h"
@@ -42,7 +43,8 @@ std::optional<Result<Control::ShortcutReport>> askResident(const Folders& folder
     if (const auto* report = std::get_if<Control::ShortcutReport>(&*answer))
         return Report(*report);
     const auto* refusal = std::get_if<CaptureReport>(&*answer);
-    return Report(Error::failed(refusal ? refusal->reason : u"It is of another version."_s));
+    return Report(
+        Error::failed(refusal ? refusal->reason : Words::tr("It is of another version.")));
 }
 
 /// The version that an address has for this system, empty where it has none.
@@ -126,9 +128,9 @@ void Examination::addShortcuts(DoctorFacts::Desktop& facts, Hotkeys& hotkeys) co
 QList<DoctorFacts::Folder> Examination::folders() const
 {
     QList<DoctorFacts::Folder> folders {
-        {u"configuration"_s, u"Folder of preferences"_s, m_sources.folders.configuration},
-        {u"data"_s, u"Folder of history"_s, m_sources.folders.data},
-        {u"pictures"_s, u"Folder of captures"_s, m_sources.prefs.saveFolder()}};
+        {u"configuration"_s, Words::tr("Folder of preferences"), m_sources.folders.configuration},
+        {u"data"_s, Words::tr("Folder of history"), m_sources.folders.data},
+        {u"pictures"_s, Words::tr("Folder of captures"), m_sources.prefs.saveFolder()}};
     for (auto& folder : folders)
         folder.problem = FolderProbe::problemOf(folder.path);
     return folders;

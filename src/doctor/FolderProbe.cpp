@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "doctor/FolderProbe.h"
 
+#include "base/Words.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryFile>
@@ -27,16 +29,16 @@ QString FolderProbe::problemOf(const QString& path)
 {
     const auto there = nearest(path);
     if (!there.isDir())
-        return u"“%1” is not a folder."_s.arg(there.filePath());
+        return Words::tr("“%1” is not a folder.").arg(there.filePath());
     if (there.absoluteFilePath() != QFileInfo(QDir::cleanPath(path)).absoluteFilePath())
         return there.isWritable()
             ? QString()
-            : u"It is missing and cannot be made in “%1”."_s.arg(there.filePath());
+            : Words::tr("It is missing and cannot be made in “%1”.").arg(there.filePath());
     // Permissions alone tell neither of a full disk nor of one that is mounted read-only.
     QTemporaryFile file(there.absoluteFilePath() + u"/.pixmallow-XXXXXX"_s);
     const QByteArray bytes(4096, 'x');
     if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
-        return u"Nothing can be written there: %1."_s.arg(file.errorString());
+        return Words::tr("Nothing can be written there: %1.").arg(file.errorString());
     return {};
 }
 

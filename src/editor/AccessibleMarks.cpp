@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/AccessibleMarks.h"
 
+#include "base/Words.h"
 #include "editor/EditorCanvas.h"
 #include "editor/Tools.h"
 
@@ -12,7 +13,7 @@ namespace {
 /// The tooltip of a tool tells its key as well.
 QString kindOf(const Annotation& mark)
 {
-    return QString(infoOf(mark.kind).tooltip).section(u" ("_s, 0, 0);
+    return Words::tr(infoOf(mark.kind).tooltip).section(u" ("_s, 0, 0);
 }
 
 QString contentOf(const Annotation& mark)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ColorWell.h"
 
+#include "base/Words.h"
 #include "editor/Colors.h"
 #include "widgets/GlassButton.h"
 
@@ -16,14 +17,19 @@ namespace {
 
 struct Named {
     QColor color;
-    QLatin1String name;
+    const char* name;
 };
 
-const std::array offered {Named {Colors::red, "Red"_L1}, Named {Colors::orange, "Orange"_L1},
-    Named {Colors::yellow, "Yellow"_L1}, Named {Colors::green, "Green"_L1},
-    Named {Colors::teal, "Teal"_L1}, Named {Colors::blue, "Blue"_L1},
-    Named {Colors::purple, "Purple"_L1}, Named {Colors::pink, "Pink"_L1},
-    Named {Qt::white, "White"_L1}, Named {Qt::black, "Black"_L1}};
+const std::array offered {Named {Colors::red, QT_TRANSLATE_NOOP("Words", "Red")},
+    Named {Colors::orange, QT_TRANSLATE_NOOP("Words", "Orange")},
+    Named {Colors::yellow, QT_TRANSLATE_NOOP("Words", "Yellow")},
+    Named {Colors::green, QT_TRANSLATE_NOOP("Words", "Green")},
+    Named {Colors::teal, QT_TRANSLATE_NOOP("Words", "Teal")},
+    Named {Colors::blue, QT_TRANSLATE_NOOP("Words", "Blue")},
+    Named {Colors::purple, QT_TRANSLATE_NOOP("Words", "Purple")},
+    Named {Colors::pink, QT_TRANSLATE_NOOP("Words", "Pink")},
+    Named {Qt::white, QT_TRANSLATE_NOOP("Words", "White")},
+    Named {Qt::black, QT_TRANSLATE_NOOP("Words", "Black")}};
 
 constexpr int columns = 5;
 
@@ -50,8 +56,8 @@ public:
         : m_themes(themes)
         , m_color(shown.color)
     {
-        setToolTip(shown.name);
-        setAccessibleName(shown.name);
+        setToolTip(Words::tr(shown.name));
+        setAccessibleName(Words::tr(shown.name));
         setCheckable(true);
         setAutoExclusive(true);
         setChecked(isCurrent);
@@ -90,8 +96,8 @@ ColorWell::ColorWell(const Surroundings& surroundings, QWidget* parent)
     : QAbstractButton(parent)
     , m_surroundings(surroundings)
 {
-    setToolTip(u"Colour"_s);
-    setAccessibleName(u"Colour"_s);
+    setToolTip(tr("Colour"));
+    setAccessibleName(tr("Colour"));
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
@@ -113,7 +119,7 @@ QSize ColorWell::sizeHint() const
 
 void ColorWell::open(const QWidget& anchor)
 {
-    auto* popover = new Popover(m_surroundings, u"Colour"_s, swatches(), window());
+    auto* popover = new Popover(m_surroundings, tr("Colour"), swatches(), window());
     popover->openAt(anchor);
 }
 
@@ -135,7 +141,7 @@ QWidget* ColorWell::swatches()
             content->setFocusProxy(swatch);
         ++index;
     }
-    auto* more = GlassButton::ofText(m_surroundings.themes, u"Other Colour…"_s);
+    auto* more = GlassButton::ofText(m_surroundings.themes, tr("Other Colour…"));
     connect(more, &QAbstractButton::clicked, this, [this, more] {
         more->window()->close();
         openDialog();
@@ -154,7 +160,7 @@ void ColorWell::openDialog()
 {
     auto* dialog = new QColorDialog(m_color, window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(u"Colour"_s);
+    dialog->setWindowTitle(tr("Colour"));
     connect(dialog, &QColorDialog::colorSelected, this, &ColorWell::choose);
     dialog->open();
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/EditKeeper.h"
 
+#include "base/Words.h"
 #include "capture/Files.h"
 
 #include <QFileInfo>
@@ -19,7 +20,7 @@ Result<QString> replaced(const Edit& edit)
     const QFileInfo file(edit.path);
     // To replace a file by another one needs no leave to write into it.
     if (file.exists() && !file.isWritable())
-        return Error::failed(u"“%1” may not be changed."_s.arg(edit.path));
+        return Error::failed(Words::tr("“%1” may not be changed.").arg(edit.path));
     const auto written = Files::write(edit.shot.image, edit.path, edit.shot.scale);
     return written ? Result<QString>(edit.path) : written.error();
 }

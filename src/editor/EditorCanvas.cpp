@@ -48,6 +48,7 @@ EditorCanvas::EditorCanvas(const QImage& image, QWidget* parent)
     FocusRing::wantedBy(*this);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
+    setLayoutDirection(Qt::LeftToRight); // A picture is no text.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->grabGesture(Qt::PinchGesture);
     m_still.setSingleShot(true);

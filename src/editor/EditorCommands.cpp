@@ -12,23 +12,27 @@ namespace {
 
 struct Info {
     QLatin1String symbol;
-    QLatin1String label;
+    const char* label;
     QLatin1String keys; ///< Of which the first is told; may be empty.
-    QLatin1String help {}; ///< The label where it is empty.
+    const char* help = nullptr; ///< Else the label.
 };
 
 constexpr std::array<Info, EditorCommands::Count> infos {{
-    {"arrow.uturn.backward"_L1, "Undo"_L1, "Ctrl+Z"_L1},
-    {"arrow.uturn.forward"_L1, "Redo"_L1, "Ctrl+Shift+Z; Ctrl+Y"_L1},
-    {"minus.magnifyingglass"_L1, "Zoom out"_L1, "Ctrl+-"_L1},
-    {"arrow.up.left.and.down.right.magnifyingglass"_L1, "Fit"_L1, "Ctrl+0"_L1},
-    {"plus.magnifyingglass"_L1, "Zoom in"_L1, "Ctrl++; Ctrl+="_L1},
-    {"pin"_L1, "Pin"_L1, ""_L1},
-    {"square.and.arrow.down"_L1, "Save"_L1, "Ctrl+S"_L1},
-    {"doc.on.doc"_L1, "Copy"_L1, "Ctrl+C"_L1},
-    {"square.and.arrow.up"_L1, "Share"_L1, ""_L1},
-    {"sparkles"_L1, "Sticker"_L1, ""_L1, "Emoji and text stickers"_L1},
-    {"xmark"_L1, "Close"_L1, "Ctrl+W"_L1},
+    {"arrow.uturn.backward"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Undo"), "Ctrl+Z"_L1},
+    {"arrow.uturn.forward"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Redo"),
+        "Ctrl+Shift+Z; Ctrl+Y"_L1},
+    {"minus.magnifyingglass"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Zoom out"), "Ctrl+-"_L1},
+    {"arrow.up.left.and.down.right.magnifyingglass"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Fit"),
+        "Ctrl+0"_L1},
+    {"plus.magnifyingglass"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Zoom in"),
+        "Ctrl++; Ctrl+="_L1},
+    {"pin"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Pin"), ""_L1},
+    {"square.and.arrow.down"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Save"), "Ctrl+S"_L1},
+    {"doc.on.doc"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Copy"), "Ctrl+C"_L1},
+    {"square.and.arrow.up"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Share"), ""_L1},
+    {"sparkles"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Sticker"), ""_L1,
+        QT_TRANSLATE_NOOP("EditorCommands", "Emoji and text stickers")},
+    {"xmark"_L1, QT_TRANSLATE_NOOP("EditorCommands", "Close"), "Ctrl+W"_L1},
 }};
 
 } // namespace
@@ -38,9 +42,9 @@ EditorCommands::EditorCommands(const Themes& themes, QWidget& window)
 {
     for (std::size_t index = 0; index < Count; ++index) {
         const Info& info = infos.at(index);
-        auto* action = new QAction(info.label, this);
+        auto* action = new QAction(tr(info.label), this);
         action->setShortcuts(QKeySequence::listFromString(info.keys));
-        const QString help = info.help.isEmpty() ? info.label : info.help;
+        const QString help = tr(info.help ? info.help : info.label);
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
         action->setToolTip(keys.isEmpty() ? help : u"%1 (%2)"_s.arg(help, keys));
         window.addAction(action);

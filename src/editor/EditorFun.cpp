@@ -14,8 +14,6 @@
 
 #include <random>
 
-using namespace Qt::StringLiterals;
-
 EditorFun::EditorFun(const EditorMeans& means, EditorCanvas& canvas, QWidget& window)
     : QObject(&window)
     , m_means(means)
@@ -40,7 +38,7 @@ void EditorFun::showStickers(const QWidget& anchor)
     };
     auto* picker = new StickerPickerView(m_means.surroundings.themes,
         pickedBy(&EditorFun::pickEmoji), pickedBy(&EditorFun::pickPhrase));
-    *close = new Popover(m_means.surroundings, u"Stickers"_s, picker, &m_window);
+    *close = new Popover(m_means.surroundings, tr("Stickers"), picker, &m_window);
     (*close)->openAt(anchor);
 }
 
@@ -70,13 +68,13 @@ void EditorFun::addMeme(const QString& top, const QString& bottom)
 {
     const auto lines = Memes::captions(top, bottom, m_canvas.model().document().base().size());
     m_canvas.edit([&](CanvasModel& model) { model.document().add(lines); });
-    Q_EMIT told(u"Meme caption added — double-click a line to edit it"_s);
+    Q_EMIT told(tr("Meme caption added — double-click a line to edit it"));
     m_means.fun.record(FunDeed::MemeAdded);
 }
 
 void EditorFun::coverFaces(const QString& emoji)
 {
-    Q_EMIT told(u"Looking for faces…"_s);
+    Q_EMIT told(tr("Looking for faces…"));
     auto look
         = [faces = m_means.faces, image = m_canvas.flattened()] { return faces->detect(image); };
     const QPointer self(this);
@@ -86,7 +84,7 @@ void EditorFun::coverFaces(const QString& emoji)
         if (faces)
             self->cover(*faces, emoji);
         else
-            Q_EMIT self->told(u"Face detection failed"_s);
+            Q_EMIT self->told(tr("Face detection failed"));
     });
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/EditorLayout.h"
 
+#include "base/Words.h"
 #include "editor/CenteringClipView.h"
 
 #include <algorithm>
@@ -37,6 +38,6 @@ double EditorLayout::fittingMagnification(QSize picture, QSize view, double scal
 
 QString EditorLayout::subtitle(QSize picture, bool isEdited)
 {
-    return u"%1 × %2"_s.arg(picture.width()).arg(picture.height())
-        + (isEdited ? u" — Edited"_s : QString());
+    const QString size = u"%1 × %2"_s.arg(picture.width()).arg(picture.height());
+    return isEdited ? Words::tr("%1 — Edited").arg(size) : size;
 }

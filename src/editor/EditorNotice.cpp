@@ -5,6 +5,7 @@
 #include "widgets/Accessible.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 #include "widgets/TextLabel.h"
 
 #include <QHBoxLayout>
@@ -19,8 +20,9 @@ EditorNotice::EditorNotice(const Themes& themes, QWidget* parent)
           new TextLabel(themes, TextStyle::Body, TextLabel::Role::Text, TextLabel::Lines::Wrapped))
 {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(
-        2 * Space::group + Extent::symbol, Space::tiny, Space::related, Space::tiny + 1);
+    row->setContentsMargins(mirrored(
+        QMargins(2 * Space::group + Extent::symbol, Space::tiny, Space::related, Space::tiny + 1),
+        *this));
     row->setSpacing(Space::tiny);
     row->addWidget(m_reason, 1);
     const auto add = [&](const QString& text, auto signal) {
@@ -28,16 +30,16 @@ EditorNotice::EditorNotice(const Themes& themes, QWidget* parent)
         connect(button, &QAbstractButton::clicked, this, signal);
         row->addWidget(button);
     };
-    add(u"Try Again"_s, &EditorNotice::retryChosen);
-    add(u"Save As…"_s, &EditorNotice::saveElsewhereChosen);
-    add(u"Discard Edit"_s, &EditorNotice::discardChosen);
+    add(tr("Try Again"), &EditorNotice::retryChosen);
+    add(tr("Save As…"), &EditorNotice::saveElsewhereChosen);
+    add(tr("Discard Edit"), &EditorNotice::discardChosen);
     connect(&themes, &Themes::changed, this, qOverload<>(&QWidget::update));
     hide();
 }
 
 void EditorNotice::tell(const QString& reason)
 {
-    m_reason->setText(u"Not closed, as the edit could not be kept: "_s + reason);
+    m_reason->setText(tr("Not closed, as the edit could not be kept: %1").arg(reason));
     setAccessibleName(m_reason->text());
     show();
     Accessible::announce(*this);
@@ -49,6 +51,6 @@ void EditorNotice::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(rect(), theme.sidebar);
     painter.fillRect(0, height() - 1, width(), 1, theme.hairline);
-    const QRectF box(Space::group, 0, Extent::symbol, height());
+    const QRectF box = mirrored(QRectF(Space::group, 0, Extent::symbol, height()), *this);
     Icons::paint(painter, u"exclamationmark.triangle.fill"_s, box, Extent::symbol, theme.failure);
 }

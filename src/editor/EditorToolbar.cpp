@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "editor/EditorToolbar.h"
 
+#include "base/Words.h"
 #include "editor/AnnotationKind.h"
 #include "editor/ColorWell.h"
 #include "editor/TextStyles.h"
 #include "editor/Tools.h"
 #include "widgets/Accessible.h"
+#include "widgets/Mirrored.h"
 #include "widgets/SegmentedControl.h"
 
 #include <QComboBox>
@@ -135,8 +137,8 @@ void EditorToolbar::addTools()
 {
     QList<SegmentedControl::Segment> segments;
     for (const ToolInfo& info : tools())
-        segments << SegmentedControl::Segment {info.symbol, {}, info.tooltip};
-    m_tools = new SegmentedControl(m_surroundings.themes, u"Tools"_s, segments);
+        segments << SegmentedControl::Segment {info.symbol, {}, Words::tr(info.tooltip)};
+    m_tools = new SegmentedControl(m_surroundings.themes, tr("Tools"), segments);
     connect(m_tools, &SegmentedControl::chosen, this, [this](int index) {
         const bool isKnown = index >= 0 && std::size_t(index) < allTools.size();
         Q_EMIT toolChosen(isKnown ? allTools.at(std::size_t(index)) : Tool::Arrow);
@@ -149,15 +151,15 @@ void EditorToolbar::addColor()
     m_color = new ColorWell(m_surroundings);
     connect(m_color, &ColorWell::chosen, this, &EditorToolbar::colorChosen);
     add(m_color, Gap::Group, Item::Color, [this](QMenu& menu) {
-        menu.addAction(u"Colour…"_s, this, [this] { m_color->open(m_row->anchor(*m_color)); });
+        menu.addAction(tr("Colour…"), this, [this] { m_color->open(m_row->anchor(*m_color)); });
     });
 }
 
 void EditorToolbar::addStroke()
 {
-    m_stroke = newChoice(u"Thickness"_s, u"Thickness"_s);
+    m_stroke = newChoice(tr("Thickness"), tr("Thickness"));
     for (const int width : strokeWidths)
-        m_stroke->addItem(u"%1 px"_s.arg(width), double(width));
+        m_stroke->addItem(tr("%1 px").arg(width), double(width));
     const auto choose = [this](int index) {
         m_stroke->setCurrentIndex(index);
         Q_EMIT strokeChosen(m_stroke->itemData(index).toDouble());
@@ -165,7 +167,7 @@ void EditorToolbar::addStroke()
     connect(m_stroke, &QComboBox::activated, this, choose);
     add(m_stroke, Gap::Related, Item::Stroke,
         [this, choose](QMenu& menu) { addChoice(menu, *m_stroke, choose); });
-    Accessible::label(*m_stroke, u"Thickness"_s);
+    Accessible::label(*m_stroke, tr("Thickness"));
 }
 
 void EditorToolbar::addZoom()
@@ -176,7 +178,7 @@ void EditorToolbar::addZoom()
         segments << SegmentedControl::Segment {
             EditorCommands::symbolOf(command), {}, m_commands[command].toolTip()};
     auto* zoom = new SegmentedControl(
-        m_surroundings.themes, u"Zoom"_s, segments, SegmentedControl::Mode::Press);
+        m_surroundings.themes, tr("Zoom"), segments, SegmentedControl::Mode::Press);
     connect(zoom, &SegmentedControl::chosen, this,
         [this](int index) { m_commands[commands.at(std::size_t(index))].trigger(); });
     add(zoom, Gap::Group, Item::Zoom, [this](QMenu& menu) {
@@ -189,9 +191,10 @@ void EditorToolbar::addZoom()
 
 void EditorToolbar::addTextStyle()
 {
-    m_textStyle = newChoice(u"Text style"_s, u"Text style (TikTok, neon, meme…)"_s);
+    m_textStyle = newChoice(tr("Text style"), tr("Text style (TikTok, neon, meme…)"));
     for (const TextLook& look : TextStyles::all())
-        m_textStyle->addItem(QString(look.name) + u" · "_s + look.effect, QString(look.name));
+        m_textStyle->addItem(u"%1 · %2"_s.arg(Words::tr(look.name.data()), Words::tr(look.effect)),
+            QString(look.name));
     const auto choose = [this](int index) {
         m_textStyle->setCurrentIndex(index);
         Q_EMIT textStyleChosen(m_textStyle->itemData(index).toString());
@@ -199,16 +202,16 @@ void EditorToolbar::addTextStyle()
     connect(m_textStyle, &QComboBox::activated, this, choose);
     add(m_textStyle, Gap::Group, Item::TextStyle,
         [this, choose](QMenu& menu) { addChoice(menu, *m_textStyle, choose); });
-    Accessible::label(*m_textStyle, u"Text style"_s);
+    Accessible::label(*m_textStyle, tr("Text style"));
 }
 
 void EditorToolbar::addFun(QMenu& menu)
 {
     auto* button = GlassButton::ofSymbol(m_surroundings.themes, u"party.popper"_s,
-        u"Meme caption, emoji face cover"_s, GlassButton::Look::Plain);
+        tr("Meme caption, emoji face cover"), GlassButton::Look::Plain);
     button->setSymbolExtent({Extent::control, Extent::control});
     connect(button, &QAbstractButton::clicked, this,
-        [button, &menu] { menu.popup(button->mapToGlobal(QPoint(0, button->height()))); });
+        [button, &menu] { menu.popup(placeBelow(*button, menu)); });
     add(button, Gap::Related, Item::Fun, [&menu](QMenu& more) { more.addMenu(&menu); });
 }
 

@@ -50,8 +50,8 @@ EditorWindow::EditorWindow(
     , m_fun(new EditorFun(m_means, *m_canvas, *this))
     , m_toolbar(new EditorToolbar(m_means.surroundings, m_commands, m_fun->menu()))
     , m_notice(new EditorNotice(means.surroundings.themes))
-    , m_subtitle(newLabel(means.surroundings.themes, u"Status"_s))
-    , m_magnification(newLabel(means.surroundings.themes, u"Magnification"_s))
+    , m_subtitle(newLabel(means.surroundings.themes, tr("Status")))
+    , m_magnification(newLabel(means.surroundings.themes, tr("Magnification")))
 {
     m_canvas->edit(
         [&](CanvasModel& model) { model.document().adopt(resumed.annotations, resumed.adopted); });
@@ -84,7 +84,7 @@ void EditorWindow::arrange()
     column->addWidget(m_notice);
     column->addWidget(m_canvas, 1);
     column->addLayout(status);
-    m_canvas->setAccessibleName(u"Picture"_s);
+    m_canvas->setAccessibleName(tr("Picture"));
     setFocusProxy(m_canvas);
 }
 
@@ -266,7 +266,7 @@ void EditorWindow::copy()
     const auto png = Files::encode(shot.image, ImageType::Png, m_scale);
     Files::copy(m_means.clipboard, shot.image, m_scale, png ? *png : QByteArray());
     m_isCopied = true;
-    setStatus(u"Copied to clipboard"_s);
+    setStatus(tr("Copied to clipboard"));
 }
 
 void EditorWindow::saveAs()

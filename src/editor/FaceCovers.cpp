@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/FaceCovers.h"
 
+#include "base/Words.h"
 #include "editor/Stickers.h"
 
 #include <QRectF>
@@ -37,7 +38,8 @@ std::vector<Annotation> FaceCovers::on(
 QString FaceCovers::told(qsizetype faces)
 {
     if (faces == 0)
-        return u"No faces found in this image"_s;
-    return u"Covered %1 face%2 — select one to move or swap it"_s.arg(faces).arg(
-        faces == 1 ? u""_s : u"s"_s);
+        return Words::tr("No faces found in this image");
+    return faces == 1 ? Words::tr("Covered 1 face — select one to move or swap it")
+                      : Words::tr("Covered %n faces — select one to move or swap it", nullptr,
+                          Words::count(faces));
 }

@@ -4,16 +4,14 @@
 
 #include "editor/Stickers.h"
 
-using namespace Qt::StringLiterals;
-
 FunMenu::FunMenu(QWidget* parent)
     : QMenu(parent)
 {
-    setTitle(u"Fun"_s);
-    addAction(u"🐸  Meme caption…"_s, this, &FunMenu::memeChosen);
-    QMenu* const covers = addMenu(u"🥸  Cover faces with emoji"_s);
+    setTitle(tr("Fun"));
+    addAction(tr("🐸  Meme caption…"), this, &FunMenu::memeChosen);
+    QMenu* const covers = addMenu(tr("🥸  Cover faces with emoji"));
     for (const QString& emoji : Stickers::faceCovers())
         covers->addAction(emoji, this, [this, emoji] { Q_EMIT coverChosen(emoji); });
-    addAction(u"🎲  Random mix"_s, this, [this] { Q_EMIT coverChosen({}); });
-    addAction(u"😎  Emoji sticker…"_s, this, &FunMenu::stickersChosen);
+    addAction(tr("🎲  Random mix"), this, [this] { Q_EMIT coverChosen({}); });
+    addAction(tr("😎  Emoji sticker…"), this, &FunMenu::stickersChosen);
 }

@@ -8,8 +8,6 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int fieldWidth = 320; // Points.
@@ -34,17 +32,17 @@ QLineEdit* addField(QVBoxLayout& column, const Themes& themes, const QString& na
 MemeDialog::MemeDialog(const Themes& themes, QWidget* parent)
     : QDialog(parent)
 {
-    setWindowTitle(u"Meme caption"_s);
+    setWindowTitle(tr("Meme caption"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Space::window, Space::window, Space::window, Space::window);
     column->setSpacing(Space::related);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    m_top = addField(*column, themes, u"Meme — top text"_s);
-    m_bottom = addField(*column, themes, u"Meme — bottom text"_s);
+    m_top = addField(*column, themes, tr("Meme — top text"));
+    m_bottom = addField(*column, themes, tr("Meme — bottom text"));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    auto* cancel = GlassButton::ofText(themes, u"Cancel"_s);
-    auto* add = GlassButton::ofText(themes, u"Add"_s, GlassButton::Look::Prominent);
+    auto* cancel = GlassButton::ofText(themes, tr("Cancel"));
+    auto* add = GlassButton::ofText(themes, tr("Add"), GlassButton::Look::Prominent);
     buttons->addWidget(cancel);
     buttons->addWidget(add);
     column->addLayout(buttons);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/StickerPickerView.h"
 
+#include "base/Words.h"
 #include "editor/EmojiCell.h"
 #include "editor/FlowChips.h"
 #include "editor/Stickers.h"
@@ -9,8 +10,6 @@
 #include <QGridLayout>
 #include <QStackedWidget>
 #include <QVBoxLayout>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,7 +40,8 @@ QWidget* emojiGrid(const Themes& themes, const StickerPickerView::Picked& picked
 StickerPickerView::StickerPickerView(
     const Themes& themes, Picked emoji, Picked phrase, QWidget* parent)
     : QWidget(parent)
-    , m_tabs(new SegmentedControl(themes, u"Stickers"_s, {{{}, u"Emoji"_s}, {{}, u"Text"_s}}))
+    , m_tabs(new SegmentedControl(
+          themes, Words::tr("Stickers"), {{{}, Words::tr("Emoji")}, {{}, Words::tr("Text")}}))
     , m_pages(new QStackedWidget)
 {
     m_pages->addWidget(emojiGrid(themes, emoji));

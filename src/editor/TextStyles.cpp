@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/TextStyles.h"
 
+#include "base/Words.h"
 #include "editor/Colors.h"
 #include "editor/Glow.h"
 #include "editor/LaidText.h"
@@ -127,12 +128,18 @@ void drawMeme(QPainter& painter, const LaidText& text, const QColor&)
 constexpr double plainPad = 4;
 
 constexpr std::array<TextLook, 6> styles {{
-    {"Classic"_L1, "outline"_L1, bold, false, 0, plainPad, 0.04, drawClassic},
-    {"Bubble"_L1, "TikTok label"_L1, black, false, 0.35, 0, 0.4, drawBubble},
-    {"Neon"_L1, "glow"_L1, black, false, 0.3, 0, 1, drawNeon},
-    {"Typewriter"_L1, "label"_L1, typewriterFont, false, 0.25, 0, 0.3, drawTypewriter},
-    {"Gradient"_L1, "rainbow"_L1, bold, false, 0, plainPad, 0.04, drawGradient},
-    {"Meme"_L1, "Impact"_L1, memeFont, true, 0, plainPad, 0.1, drawMeme},
+    {QLatin1String(QT_TRANSLATE_NOOP("Words", "Classic")), QT_TRANSLATE_NOOP("Words", "outline"),
+        bold, false, 0, plainPad, 0.04, drawClassic},
+    {QLatin1String(QT_TRANSLATE_NOOP("Words", "Bubble")),
+        QT_TRANSLATE_NOOP("Words", "TikTok label"), black, false, 0.35, 0, 0.4, drawBubble},
+    {QLatin1String(QT_TRANSLATE_NOOP("Words", "Neon")), QT_TRANSLATE_NOOP("Words", "glow"), black,
+        false, 0.3, 0, 1, drawNeon},
+    {QLatin1String(QT_TRANSLATE_NOOP("Words", "Typewriter")), QT_TRANSLATE_NOOP("Words", "label"),
+        typewriterFont, false, 0.25, 0, 0.3, drawTypewriter},
+    {QLatin1String(QT_TRANSLATE_NOOP("Words", "Gradient")), QT_TRANSLATE_NOOP("Words", "rainbow"),
+        bold, false, 0, plainPad, 0.04, drawGradient},
+    {QLatin1String(QT_TRANSLATE_NOOP("Words", "Meme")), QT_TRANSLATE_NOOP("Words", "Impact"),
+        memeFont, true, 0, plainPad, 0.1, drawMeme},
 }};
 
 } // namespace

@@ -13,8 +13,8 @@ class QPainter;
 
 /// One look of text annotations. Drawing is in the units of LaidText.
 struct TextLook {
-    QLatin1String name; ///< As stored.
-    QLatin1String effect; ///< One word of what it does.
+    QLatin1String name; ///< As stored; in English, as the next, for Words::tr().
+    const char* effect; ///< One word of what it does.
     QFont (*font)(); ///< Of LaidText::em pixels.
     bool upperCase;
     double padEm; ///< Around the text within its bounds, in font sizes.

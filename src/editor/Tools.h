@@ -16,7 +16,7 @@ struct ToolInfo {
     Tool tool;
     char16_t key; ///< Lower case.
     QLatin1String symbol; ///< Name of its icon.
-    QLatin1String tooltip;
+    const char* tooltip; ///< In English, for Words::tr().
     const AnnotationKind* kind; ///< Null for tools that make no annotation.
 };
 

@@ -10,8 +10,8 @@
 struct Achievement {
     QStringView id;
     QStringView emoji;
-    QStringView title;
-    QStringView desc;
+    const char* title; ///< In English, as the next, for Words::tr().
+    const char* desc;
     qint64 goal;
     qint64 (*value)(const FunStats&);
 };

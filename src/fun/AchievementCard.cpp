@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "fun/AchievementCard.h"
 
+#include "base/Words.h"
 #include "fun/Emoji.h"
 #include "widgets/Accessible.h"
 #include "widgets/TextLines.h"
@@ -52,11 +53,11 @@ void AchievementCard::setStats(const FunStats& stats)
 {
     m_isUnlocked = stats.unlocked.contains(m_achievement.id);
     m_value = std::clamp<qint64>(m_achievement.value(stats), 0, m_achievement.goal);
-    setAccessibleName(m_achievement.title.toString());
-    setAccessibleDescription(m_achievement.desc.toString() + u". "_s
-        + (m_isUnlocked ? u"Unlocked"_s
-                        : u"Locked, %1 of %2"_s.arg(m_value).arg(m_achievement.goal)));
-    setToolTip(m_achievement.desc.toString());
+    setAccessibleName(Words::tr(m_achievement.title));
+    setAccessibleDescription(Words::tr(m_achievement.desc) + u". "_s
+        + (m_isUnlocked ? tr("Unlocked")
+                        : tr("Locked, %1 of %2").arg(m_value).arg(m_achievement.goal)));
+    setToolTip(Words::tr(m_achievement.desc));
     update();
 }
 
@@ -88,14 +89,14 @@ void AchievementCard::paintText(QPainter& painter, int top) const
     painter.setPen(m_isUnlocked ? theme().text : theme().secondary);
     painter.drawText(line, Qt::AlignCenter,
         painter.fontMetrics().elidedText(
-            m_achievement.title.toString(), Qt::ElideRight, line.width()));
+            Words::tr(m_achievement.title), Qt::ElideRight, line.width()));
     const QFont small = theme().font(TextStyle::Caption);
     painter.setFont(small);
     painter.setPen(theme().secondary);
     line = QRect(
         line.left(), line.bottom() + 1, line.width(), theme().lineHeight(TextStyle::Caption));
     for (const QString& text :
-        TextLines::fitting(m_achievement.desc.toString(), small, line.width(), linesOf(theme()))) {
+        TextLines::fitting(Words::tr(m_achievement.desc), small, line.width(), linesOf(theme()))) {
         painter.drawText(line, Qt::AlignCenter, text);
         line.translate(0, line.height());
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "fun/Fun.h"
 
+#include "base/Words.h"
 #include "fun/Pet.h"
 
 #include <QRandomGenerator>
@@ -100,7 +101,7 @@ int Fun::level() const
 
 QString Fun::stageName() const
 {
-    return Pet::stageNames[Pet::stage(level())].toString();
+    return Words::tr(Pet::stageNames[Pet::stage(level())]);
 }
 
 QString Fun::petEmoji() const

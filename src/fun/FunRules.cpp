@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "fun/FunRules.h"
 
+#include "base/Words.h"
 #include "fun/Pet.h"
 
 #include <algorithm>
@@ -20,7 +21,10 @@ constexpr int streakXp = 30;
 constexpr int streakWorthKeeping = 3; // Days.
 constexpr std::chrono::milliseconds missedAfter = 72h;
 
-const QString lateLine = u"it's late… go to sleep"_s;
+QString lateLine()
+{
+    return Words::tr("it's late… go to sleep");
+}
 
 struct Reward {
     qint64 FunStats::*counter;
@@ -52,9 +56,9 @@ void increase(qint64& counter, qint64 by = 1)
     counter += std::clamp<qint64>(by, 0, FunStats::most - counter);
 }
 
-QString pick(std::span<const QStringView> lines, const FunRules::Random& random)
+QString pick(std::span<const char* const> lines, const FunRules::Random& random)
 {
-    return lines[std::size_t(random(int(lines.size())))].toString();
+    return Words::tr(lines[std::size_t(random(int(lines.size())))]);
 }
 
 qint64 bestDay(const FunStats& stats)
@@ -72,25 +76,39 @@ qint64 valueOf(const FunStats& stats)
 } // namespace
 
 constexpr std::array<Achievement, 15> FunRules::achievements {{
-    {u"first", u"📸", u"First Snap", u"Take your first screenshot", 1, valueOf<&FunStats::total>},
-    {u"snap50", u"😎", u"Snap Happy", u"Take 50 screenshots", 50, valueOf<&FunStats::total>},
-    {u"lore", u"📚", u"Lore Keeper", u"Take 1,000 screenshots", 1000, valueOf<&FunStats::total>},
-    {u"goblin", u"👺", u"Screenshot Goblin", u"50 screenshots in one day", 50, bestDay},
-    {u"night", u"🦉", u"Night Owl", u"25 captures between midnight and 5 am", 25,
+    {u"first", u"📸", QT_TRANSLATE_NOOP("Words", "First Snap"),
+        QT_TRANSLATE_NOOP("Words", "Take your first screenshot"), 1, valueOf<&FunStats::total>},
+    {u"snap50", u"😎", QT_TRANSLATE_NOOP("Words", "Snap Happy"),
+        QT_TRANSLATE_NOOP("Words", "Take 50 screenshots"), 50, valueOf<&FunStats::total>},
+    {u"lore", u"📚", QT_TRANSLATE_NOOP("Words", "Lore Keeper"),
+        QT_TRANSLATE_NOOP("Words", "Take 1,000 screenshots"), 1000, valueOf<&FunStats::total>},
+    {u"goblin", u"👺", QT_TRANSLATE_NOOP("Words", "Screenshot Goblin"),
+        QT_TRANSLATE_NOOP("Words", "50 screenshots in one day"), 50, bestDay},
+    {u"night", u"🦉", QT_TRANSLATE_NOOP("Words", "Night Owl"),
+        QT_TRANSLATE_NOOP("Words", "25 captures between midnight and 5 am"), 25,
         valueOf<&FunStats::night>},
-    {u"early", u"🐓", u"Early Bird", u"10 captures between 5 and 8 am", 10,
+    {u"early", u"🐓", QT_TRANSLATE_NOOP("Words", "Early Bird"),
+        QT_TRANSLATE_NOOP("Words", "10 captures between 5 and 8 am"), 10,
         valueOf<&FunStats::early>},
-    {u"fire", u"🔥", u"On Fire", u"Keep a 7-day streak", 7, valueOf<&FunStats::bestStreak>},
-    {u"unstoppable", u"⚡", u"Unstoppable", u"Keep a 30-day streak", 30,
-        valueOf<&FunStats::bestStreak>},
-    {u"text", u"🔤", u"Text Grabber", u"Copy text from 10 captures", 10, valueOf<&FunStats::texts>},
-    {u"artist", u"🎨", u"Artist", u"Edit 25 screenshots", 25, valueOf<&FunStats::edits>},
-    {u"meme", u"🐸", u"Meme Lord", u"Make 10 memes", 10, valueOf<&FunStats::memes>},
-    {u"incognito", u"🥸", u"Incognito", u"Cover 20 faces with emoji", 20,
+    {u"fire", u"🔥", QT_TRANSLATE_NOOP("Words", "On Fire"),
+        QT_TRANSLATE_NOOP("Words", "Keep a 7-day streak"), 7, valueOf<&FunStats::bestStreak>},
+    {u"unstoppable", u"⚡", QT_TRANSLATE_NOOP("Words", "Unstoppable"),
+        QT_TRANSLATE_NOOP("Words", "Keep a 30-day streak"), 30, valueOf<&FunStats::bestStreak>},
+    {u"text", u"🔤", QT_TRANSLATE_NOOP("Words", "Text Grabber"),
+        QT_TRANSLATE_NOOP("Words", "Copy text from 10 captures"), 10, valueOf<&FunStats::texts>},
+    {u"artist", u"🎨", QT_TRANSLATE_NOOP("Words", "Artist"),
+        QT_TRANSLATE_NOOP("Words", "Edit 25 screenshots"), 25, valueOf<&FunStats::edits>},
+    {u"meme", u"🐸", QT_TRANSLATE_NOOP("Words", "Meme Lord"),
+        QT_TRANSLATE_NOOP("Words", "Make 10 memes"), 10, valueOf<&FunStats::memes>},
+    {u"incognito", u"🥸", QT_TRANSLATE_NOOP("Words", "Incognito"),
+        QT_TRANSLATE_NOOP("Words", "Cover 20 faces with emoji"), 20,
         valueOf<&FunStats::facesCovered>},
-    {u"stickers", u"💥", u"Sticker Bomb", u"Drop 50 stickers", 50, valueOf<&FunStats::stickers>},
-    {u"share", u"🐻", u"Share Bear", u"Share 10 screenshots", 10, valueOf<&FunStats::shares>},
-    {u"parent", u"🐉", u"Pet Parent", u"Raise your pet to level 5", 5,
+    {u"stickers", u"💥", QT_TRANSLATE_NOOP("Words", "Sticker Bomb"),
+        QT_TRANSLATE_NOOP("Words", "Drop 50 stickers"), 50, valueOf<&FunStats::stickers>},
+    {u"share", u"🐻", QT_TRANSLATE_NOOP("Words", "Share Bear"),
+        QT_TRANSLATE_NOOP("Words", "Share 10 screenshots"), 10, valueOf<&FunStats::shares>},
+    {u"parent", u"🐉", QT_TRANSLATE_NOOP("Words", "Pet Parent"),
+        QT_TRANSLATE_NOOP("Words", "Raise your pet to level 5"), 5,
         [](const FunStats& stats) -> qint64 { return Pet::level(stats.xp); }},
 }};
 
@@ -129,12 +147,12 @@ FunRules::CaptureOutcome FunRules::captured(
 
     PetReaction reaction {{}, {}, captureXp};
     if (isFirstToday && streakNow > 1) {
-        reaction.line = u"%1-day streak!"_s.arg(streakNow);
+        reaction.line = Words::tr("%1-day streak!").arg(streakNow);
         reaction.xp = streakXp;
     } else if (isFirstToday && streakBefore == 0 && stats.total >= 2) {
-        reaction.line = u"welcome back"_s;
+        reaction.line = Words::tr("welcome back");
     } else {
-        reaction.line = hour < nightEnds ? lateLine : pick(Pet::captureLines, random);
+        reaction.line = hour < nightEnds ? lateLine() : pick(Pet::captureLines, random);
     }
     auto outcome = fed(std::move(stats), reaction.xp);
     const auto stage = Pet::stage(Pet::level(outcome.stats.xp));
@@ -160,11 +178,13 @@ FunRules::Outcome FunRules::fed(FunStats stats, qint64 xp)
     const auto stage = Pet::stage(level);
     FunPopUp popUp {Pet::stageEmoji[stage].toString(), {}, {}, {}};
     if (stage != Pet::stage(levelBefore)) {
-        popUp.title = u"Your pet evolved!"_s;
-        popUp.text = u"%1 is now a %2"_s.arg(outcome.stats.petName, Pet::stageNames[stage]);
+        popUp.title = Words::tr("Your pet evolved!");
+        popUp.text = Words::tr("%1 is now a %2")
+                         .arg(outcome.stats.petName, Words::tr(Pet::stageNames[stage]));
     } else {
-        popUp.title = u"Level up!"_s;
-        popUp.text = u"%1 reached level %2"_s.arg(outcome.stats.petName, QString::number(level));
+        popUp.title = Words::tr("Level up!");
+        popUp.text
+            = Words::tr("%1 reached level %2").arg(outcome.stats.petName, QString::number(level));
     }
     outcome.popUps.append(popUp);
     return outcome;
@@ -179,8 +199,8 @@ FunRules::Outcome FunRules::unlocked(FunStats stats)
             || achievement.value(outcome.stats) < achievement.goal)
             continue;
         outcome.stats.unlocked.append(id);
-        outcome.popUps.append({achievement.emoji.toString(), u"Achievement unlocked"_s,
-            achievement.title.toString(), achievement.desc.toString()});
+        outcome.popUps.append({achievement.emoji.toString(), Words::tr("Achievement unlocked"),
+            Words::tr(achievement.title), Words::tr(achievement.desc)});
     }
     return outcome;
 }
@@ -195,15 +215,15 @@ FunStats FunRules::reset(const FunStats& stats)
 QString FunRules::mood(const FunStats& stats, const QDateTime& now, const Random& random)
 {
     if (stats.lastCapture && stats.lastCapture->msecsTo(now) > missedAfter.count())
-        return u"missed you… take a screenshot?"_s;
+        return Words::tr("missed you… take a screenshot?");
     if (stats.total == 0)
-        return u"hatch me with your first screenshot"_s;
+        return Words::tr("hatch me with your first screenshot");
     if (now.time().hour() < nightEnds)
-        return lateLine;
+        return lateLine();
     const int days = streak(stats, now.date());
     if (days < streakWorthKeeping)
         return idleLine(random);
-    return u"%1-day streak, don't break it"_s.arg(days);
+    return Words::tr("%1-day streak, don't break it").arg(days);
 }
 
 QString FunRules::idleLine(const Random& random)

@@ -14,8 +14,6 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int cardWidth = 160;
@@ -33,7 +31,7 @@ GalleryView::GalleryView(const Themes& themes, Fun& fun, QWidget* parent)
     , m_grid(new QGridLayout)
 {
     Accessible::describe(*this, {QAccessible::Grouping});
-    setAccessibleName(u"Pet and achievements"_s);
+    setAccessibleName(tr("Pet and achievements"));
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidgetResizable(true);
@@ -86,7 +84,7 @@ void GalleryView::refresh()
         m_cards[i]->setStats(m_fun.stats());
         unlocked += m_fun.stats().unlocked.contains(Fun::all[std::size_t(i)].id);
     }
-    m_count->setText(u"Achievements  •  %1 of %2"_s.arg(unlocked).arg(m_cards.size()));
+    m_count->setText(tr("Achievements  •  %1 of %2").arg(unlocked).arg(m_cards.size()));
 }
 
 void GalleryView::arrange(int width)
@@ -132,8 +130,9 @@ void GalleryView::keyPressEvent(QKeyEvent* event)
         window()->close();
         return;
     }
-    const QHash<int, int> steps {{Qt::Key_Left, -1}, {Qt::Key_Right, 1}, {Qt::Key_Up, -m_columns},
-        {Qt::Key_Down, m_columns}};
+    const int right = isRightToLeft() ? -1 : 1;
+    const QHash<int, int> steps {{Qt::Key_Left, -right}, {Qt::Key_Right, right},
+        {Qt::Key_Up, -m_columns}, {Qt::Key_Down, m_columns}};
     const auto step = steps.constFind(event->key());
     const int at = focused();
     if (step == steps.cend() || at < 0)

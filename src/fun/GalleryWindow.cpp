@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "fun/GalleryWindow.h"
 
+#include "base/Words.h"
 #include "widgets/PanelPlacement.h"
 
 #include <QCursor>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,7 +29,7 @@ void GalleryWindow::show()
     if (!m_view) {
         m_view = new GalleryView(m_themes, m_fun);
         m_view->setAttribute(Qt::WA_DeleteOnClose);
-        m_view->setWindowTitle(u"Achievements"_s);
+        m_view->setWindowTitle(Words::tr("Achievements"));
         m_view->setMinimumSize(leastSize);
         const auto screen = PanelPlacement::under(QCursor::pos(), PanelPlacement::screens());
         const QSize room = screen.workArea.size() - QSize(2 * Space::wide, 2 * Space::wide);

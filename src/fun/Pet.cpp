@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "fun/Pet.h"
 
+#include "base/Words.h"
+
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,8 +39,10 @@ QString Pet::nextStage(int level)
 {
     const std::size_t next = stage(level) + 1;
     if (next == stageAt.size())
-        return u"Fully evolved"_s;
-    return u"Evolves into %1 at level %2"_s.arg(stageNames[next]).arg(stageAt[next]);
+        return Words::tr("Fully evolved");
+    return Words::tr("Evolves into %1 at level %2")
+        .arg(Words::tr(stageNames[next]))
+        .arg(stageAt[next]);
 }
 
 QString Pet::acceptableName(const QString& name)

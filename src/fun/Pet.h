@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/Words.h"
+
 #include <QStringView>
 
 #include <array>
@@ -11,19 +13,31 @@ namespace Pet {
 
 // Stage by stage: the level it begins at, its name and how it looks.
 inline constexpr std::array<int, 5> stageAt {1, 2, 4, 7, 12};
-inline constexpr std::array<QStringView, 5> stageNames {
-    u"Egg", u"Hatchling", u"Chick", u"Wise Owl", u"Legendary Dragon"};
+inline constexpr std::array<const char*, 5> stageNames {QT_TRANSLATE_NOOP("Words", "Egg"),
+    QT_TRANSLATE_NOOP("Words", "Hatchling"), QT_TRANSLATE_NOOP("Words", "Chick"),
+    QT_TRANSLATE_NOOP("Words", "Wise Owl"), QT_TRANSLATE_NOOP("Words", "Legendary Dragon")};
 inline constexpr std::array<QStringView, 5> stageEmoji {u"🥚", u"🐣", u"🐥", u"🦉", u"🐉"};
 
-inline constexpr std::array<QStringView, 12> captureLines {u"ate that", u"caught in 4K",
-    u"certified screenshot moment", u"that's going in the lore", u"W capture",
-    u"pixel perfect, bestie", u"main character energy", u"saved for the receipts", u"slay",
-    u"no thoughts, just pixels", u"it's giving evidence", u"core memory unlocked"};
+// What it says; in English, as the names above, for Words::tr().
+inline constexpr std::array<const char*, 12> captureLines {QT_TRANSLATE_NOOP("Words", "ate that"),
+    QT_TRANSLATE_NOOP("Words", "caught in 4K"),
+    QT_TRANSLATE_NOOP("Words", "certified screenshot moment"),
+    QT_TRANSLATE_NOOP("Words", "that's going in the lore"), QT_TRANSLATE_NOOP("Words", "W capture"),
+    QT_TRANSLATE_NOOP("Words", "pixel perfect, bestie"),
+    QT_TRANSLATE_NOOP("Words", "main character energy"),
+    QT_TRANSLATE_NOOP("Words", "saved for the receipts"), QT_TRANSLATE_NOOP("Words", "slay"),
+    QT_TRANSLATE_NOOP("Words", "no thoughts, just pixels"),
+    QT_TRANSLATE_NOOP("Words", "it's giving evidence"),
+    QT_TRANSLATE_NOOP("Words", "core memory unlocked")};
 
-inline constexpr std::array<QStringView, 8> idleLines {u"feed me screenshots",
-    u"I live in your menu bar now", u"what are we capturing today?", u"one more snap won't hurt",
-    u"I'm not a screenshot goblin, you are", u"pet me again", u"*happy pixel noises*",
-    u"lowkey proud of us"};
+inline constexpr std::array<const char*, 8> idleLines {
+    QT_TRANSLATE_NOOP("Words", "feed me screenshots"),
+    QT_TRANSLATE_NOOP("Words", "I live in your menu bar now"),
+    QT_TRANSLATE_NOOP("Words", "what are we capturing today?"),
+    QT_TRANSLATE_NOOP("Words", "one more snap won't hurt"),
+    QT_TRANSLATE_NOOP("Words", "I'm not a screenshot goblin, you are"),
+    QT_TRANSLATE_NOOP("Words", "pet me again"), QT_TRANSLATE_NOOP("Words", "*happy pixel noises*"),
+    QT_TRANSLATE_NOOP("Words", "lowkey proud of us")};
 
 /// 1 at first; level n takes 40 × (n − 1)² points.
 int level(qint64 xp);

@@ -6,6 +6,7 @@
 #include "fun/Pet.h"
 #include "widgets/Contrast.h"
 #include "widgets/GlassButton.h"
+#include "widgets/Mirrored.h"
 #include "widgets/TextLabel.h"
 
 #include <QHBoxLayout>
@@ -79,7 +80,7 @@ QLayout* PetCard::nameRow()
 {
     m_name = new TextLabel(themes(), TextStyle::Title2);
     m_rename = GlassButton::ofSymbol(
-        themes(), u"pencil"_s, u"Rename your pet"_s, GlassButton::Look::Plain);
+        themes(), u"pencil"_s, tr("Rename your pet"), GlassButton::Look::Plain);
     m_rename->setSymbolExtent({Extent::control, Extent::control});
     connect(m_rename, &QAbstractButton::clicked, this, &PetCard::beginRenaming);
     m_shownName = new QWidget;
@@ -91,7 +92,7 @@ QLayout* PetCard::nameRow()
     row->addStretch();
 
     m_edited = new QLineEdit;
-    m_edited->setAccessibleName(u"Name of your pet"_s);
+    m_edited->setAccessibleName(tr("Name of your pet"));
     m_edited->installEventFilter(this);
     connect(m_edited, &QLineEdit::editingFinished, this, [this] { endRenaming(true); });
     m_names = new QStackedLayout;
@@ -104,7 +105,7 @@ QLayout* PetCard::numbers()
 {
     auto* row = new QHBoxLayout;
     row->setSpacing(Space::related);
-    for (const QString& what : {u"Captures"_s, u"Today"_s, u"Edits"_s, u"XP"_s}) {
+    for (const QString& what : {tr("Captures"), tr("Today"), tr("Edits"), u"XP"_s}) {
         auto* column = new QVBoxLayout;
         column->setSpacing(0);
         m_numbers.append(new TextLabel(themes(), TextStyle::Title3));
@@ -123,13 +124,13 @@ void PetCard::refresh()
     const QLocale locale;
     const FunStats& stats = m_fun.stats();
     m_name->setText(stats.petName);
-    m_stage->setText(u"%1  •  Level %2"_s.arg(m_fun.stageName(), locale.toString(m_fun.level())));
+    m_stage->setText(tr("%1  •  Level %2").arg(m_fun.stageName(), locale.toString(m_fun.level())));
     m_next->setText(m_fun.nextStage());
     const std::array values {stats.total, m_fun.today(), stats.edits, stats.xp};
     for (std::size_t i = 0; i < values.size(); ++i)
         m_numbers[qsizetype(i)]->setText(locale.toString(values[i]));
     setAccessibleName(
-        u"%1, %2, level %3"_s.arg(stats.petName, m_fun.stageName()).arg(m_fun.level()));
+        tr("%1, %2, level %3").arg(stats.petName, m_fun.stageName()).arg(m_fun.level()));
     update();
 }
 
@@ -187,7 +188,8 @@ void PetCard::paintLevel(QPainter& painter) const
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme().fillHover);
     painter.drawRoundedRect(bar, round, round);
-    bar.setWidth(std::max<double>(barHeight, bar.width() * done));
+    const double length = std::max<double>(barHeight, bar.width() * done);
+    isRightToLeft() ? bar.setLeft(bar.right() - length) : bar.setWidth(length);
     painter.setBrush(theme().accent);
     painter.drawRoundedRect(bar, round, round);
 }
@@ -199,13 +201,16 @@ void PetCard::paintStages(QPainter& painter) const
     const QRectF row = m_stages->geometry();
     const double step = (row.width() - stageSize) / double(Pet::stageEmoji.size() - 1);
     for (std::size_t i = 0; i < Pet::stageEmoji.size(); ++i) {
-        const QRectF box(row.left() + double(i) * step, row.top(), stageSize, row.height());
+        const QRectF box = mirrored(
+            QRectF(row.left() + double(i) * step, row.top(), stageSize, row.height()), *this);
         if (i > 0) {
             const double y = row.center().y();
             painter.setPen(QPen(i <= reached ? theme().accent : theme().fillPressed, 2,
                 Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(QPointF(box.left() - step + stageSize + Space::tiny, y),
-                QPointF(box.left() - Space::tiny, y));
+            const double way = isRightToLeft() ? -1 : 1; // From the stage before.
+            painter.drawLine(
+                QPointF(box.center().x() - way * (step - stageSize / 2.0 - Space::tiny), y),
+                QPointF(box.center().x() - way * (stageSize / 2.0 + Space::tiny), y));
         }
         Emoji::paint(painter, Pet::stageEmoji[i].toString(), box, stageSize,
             i <= reached ? Emoji::Look::Full : Emoji::Look::Faded);

@@ -5,6 +5,7 @@
 #include "fun/Emoji.h"
 #include "widgets/Accessible.h"
 #include "widgets/Enlarged.h"
+#include "widgets/Mirrored.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -44,7 +45,8 @@ void PopUpView::paintEvent(QPaintEvent*)
 {
     const Theme& theme = m_themes.current();
     QPainter painter(this);
-    Emoji::paint(painter, m_popUp.emoji, QRectF(Space::group, 0, emojiSize, height()), emojiSize);
+    Emoji::paint(painter, m_popUp.emoji,
+        mirrored(QRectF(Space::group, 0, emojiSize, height()), *this), emojiSize);
 
     struct Line {
         TextStyle style;
@@ -64,7 +66,7 @@ void PopUpView::paintEvent(QPaintEvent*)
         box.setHeight(theme.lineHeight(line.style));
         painter.setFont(theme.font(line.style));
         painter.setPen(line.colour);
-        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(mirrored(box, *this), Qt::AlignLeft | Qt::AlignVCenter,
             painter.fontMetrics().elidedText(line.text, Qt::ElideRight, box.width()));
         box.translate(0, box.height());
     }

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "fun/StreakCalendarView.h"
 
+#include "base/Words.h"
 #include "widgets/Contrast.h"
+#include "widgets/Mirrored.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -30,10 +32,10 @@ StreakCalendarView::StreakCalendarView(const Themes& themes, QWidget* parent)
 void StreakCalendarView::setDays(const QList<StreakCalendar::Day>& days, int streak, qint64 best)
 {
     m_days = days;
-    m_title = streak > 0 ? u"%1-day streak"_s.arg(streak) : u"No streak yet"_s;
+    m_title = streak > 0 ? tr("%n-day streak", nullptr, streak) : tr("No streak yet");
     m_detail = best > 0
-        ? u"Longest: %1 %2"_s.arg(m_locale.toString(best), best == 1 ? u"day"_s : u"days"_s)
-        : u"A capture a day keeps it going"_s;
+        ? (best == 1 ? tr("Longest: 1 day") : tr("Longest: %Ln days", nullptr, Words::count(best)))
+        : tr("A capture a day keeps it going");
     setAccessibleName(m_title + u". "_s + m_detail);
     updateGeometry();
     update();
@@ -67,7 +69,8 @@ QSize StreakCalendarView::sizeHint() const
 
 QRectF StreakCalendarView::dot(int day) const
 {
-    return QRectF(Space::group + day / 7 * step, dotsTop() + day % 7 * step, side, side);
+    return mirrored(
+        QRectF(Space::group + day / 7 * step, dotsTop() + day % 7 * step, side, side), *this);
 }
 
 void StreakCalendarView::paintEvent(QPaintEvent* event)
@@ -105,8 +108,9 @@ void StreakCalendarView::paintMonths(QPainter& painter) const
     for (int day = 0; day + 14 < m_days.size(); day += 7) {
         const QDate date = m_days[day].date;
         if (date.day() <= (day == 0 ? 14 : 7))
-            painter.drawText(
-                QRectF(dot(day).left(), dotsTop() - Space::tiny - height, 3 * step, height),
+            painter.drawText(mirrored(QRectF(Space::group + day / 7 * step,
+                                          dotsTop() - Space::tiny - height, 3.0 * step, height),
+                                 *this),
                 Qt::AlignLeft | Qt::AlignVCenter,
                 m_locale.standaloneMonthName(date.month(), QLocale::ShortFormat));
     }
@@ -131,9 +135,10 @@ QString StreakCalendarView::told(const StreakCalendar::Day& day) const
 {
     const QString date = m_locale.toString(day.date, QLocale::LongFormat);
     if (day.captures == 0)
-        return u"No captures on %1"_s.arg(date);
-    return u"%1 %2 on %3"_s.arg(
-        m_locale.toString(day.captures), day.captures == 1 ? u"capture"_s : u"captures"_s, date);
+        return tr("No captures on %1").arg(date);
+    return day.captures == 1
+        ? tr("1 capture on %1").arg(date)
+        : tr("%Ln captures on %1", nullptr, Words::count(day.captures)).arg(date);
 }
 
 bool StreakCalendarView::event(QEvent* event)

@@ -22,7 +22,7 @@ AccessiblePart AccessibleCards::part(int index) const
     const HistoryItem& item = m_grid.item(index);
     const DayCalendar& calendar = m_grid.m_catalogue.calendar();
     QStringList words {
-        item.app, calendar.title(calendar.day(item)), CardText::line(item, calendar)};
+        item.appName(), calendar.title(calendar.day(item)), CardText::line(item, calendar)};
     if (m_grid.m_catalogue.isSearching())
         words << CardText::found(item, m_grid.m_catalogue, m_grid.m_textOf);
     words.removeAll({});

@@ -97,16 +97,22 @@ void CardPainter::paintWell(QPainter& painter, const Card& card, QRectF well) co
     }
 }
 
+/// The pieces stand one after the other as the text itself runs, whichever way the surface does.
 void CardPainter::paintFound(QPainter& painter, QRect box, const QString& found) const
 {
     const auto at = found.indexOf(m_wanted, 0, Qt::CaseInsensitive);
+    const bool runsRight = !found.isRightToLeft();
+    const int flags = int(Qt::AlignAbsolute | Qt::AlignVCenter)
+        | (runsRight ? Qt::AlignLeft : Qt::AlignRight)
+        | (runsRight ? Qt::TextForceLeftToRight : Qt::TextForceRightToLeft);
     const auto draw = [&](const QFont& font, const QColor& colour, const QString& text) {
         const QFontMetrics metrics(font);
         painter.setFont(font);
         painter.setPen(colour);
-        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter,
-            metrics.elidedText(text, Qt::ElideRight, box.width()));
-        box.setLeft(std::min(box.right(), box.left() + metrics.horizontalAdvance(text)));
+        painter.drawText(box, flags, metrics.elidedText(text, Qt::ElideRight, box.width()));
+        const int width = metrics.horizontalAdvance(text);
+        runsRight ? box.setLeft(std::min(box.right(), box.left() + width))
+                  : box.setRight(std::max(box.left(), box.right() - width));
     };
     if (at < 0)
         return draw(m_lineFont, m_theme.text, found);

@@ -25,7 +25,7 @@ QString CardText::found(const HistoryItem& item, HistoryCatalogue& catalogue,
     const DayCalendar& calendar = catalogue.calendar();
     const QString file = item.path.mid(item.path.lastIndexOf(u'/') + 1);
     const QString date = calendar.locale.toString(calendar.day(item), QLocale::LongFormat);
-    for (const QString& place : {item.app, file, date})
+    for (const QString& place : {item.appName(), file, date})
         if (searchable(place).contains(searchable(query)))
             return place;
     return HistoryCatalogue::wordsOf(item, calendar); // Across several of them.

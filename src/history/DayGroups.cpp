@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "history/DayGroups.h"
 
-#include <optional>
+#include "base/Words.h"
 
-using namespace Qt::StringLiterals;
+#include <optional>
 
 namespace {
 
@@ -50,9 +50,9 @@ QDate DayCalendar::day(const HistoryItem& item) const
 QString DayCalendar::title(QDate day) const
 {
     if (day == today)
-        return u"Today"_s;
+        return Words::tr("Today");
     if (day == today.addDays(-1))
-        return u"Yesterday"_s;
+        return Words::tr("Yesterday");
     return locale.toString(day, QLocale::LongFormat);
 }
 

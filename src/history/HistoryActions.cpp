@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "history/HistoryActions.h"
 
+#include "base/Words.h"
 #include "base/Worker.h"
 #include "capture/Files.h"
 #include "history/EntryPicture.h"
@@ -24,11 +25,6 @@ constexpr QSize dragged(160, 120); // Points that what is dragged measures at mo
 
 const QString copied = u"doc.on.doc"_s;
 const QString failure = u"exclamationmark.triangle.fill"_s;
-
-QString captures(qsizetype count)
-{
-    return count == 1 ? u"1 capture"_s : u"%1 captures"_s.arg(QLocale().toString(qlonglong(count)));
-}
 
 QStringList pathsOf(const QList<HistoryItem>& items)
 {
@@ -56,7 +52,7 @@ void HistoryActions::withShot(const HistoryItem& item, std::function<void(Finish
             if (capture)
                 act(*capture);
             else
-                self->tell(u"No picture"_s, failure, capture.error().message);
+                self->tell(tr("No picture"), failure, capture.error().message);
         });
 }
 
@@ -89,7 +85,10 @@ void HistoryActions::copy(const QList<HistoryItem>& items)
     if (items.size() > 1) {
         const QStringList paths = pathsOf(items);
         m_means.clipboard.setFiles(paths);
-        return tell(u"Copied %1"_s.arg(captures(paths.size())), copied);
+        return tell(paths.size() == 1
+                ? tr("Copied 1 capture")
+                : tr("Copied %Ln captures", nullptr, Words::count(paths.size())),
+            copied);
     }
     if (items.isEmpty() || !m_means.shots.copy)
         return;
@@ -133,14 +132,18 @@ void HistoryActions::remove(const QList<HistoryItem>& items, QWidget& asking)
     if (items.size() == 1)
         return removeAll();
     if (!items.isEmpty())
-        ask(asking, u"Remove %1 from the history?"_s.arg(captures(items.size())), u"Remove"_s,
-            removeAll);
+        ask(asking,
+            tr("Remove %Ln captures from the history?", nullptr, Words::count(items.size())),
+            tr("Remove"), removeAll);
 }
 
 void HistoryActions::clear(QWidget& asking)
 {
-    ask(asking, u"Remove all %1 from the history?"_s.arg(captures(m_means.store.items().size())),
-        u"Clear History"_s, [this] { m_means.store.clear(); });
+    const int count = Words::count(m_means.store.items().size());
+    ask(asking,
+        count == 1 ? tr("Remove the only capture from the history?")
+                   : tr("Remove all %Ln captures from the history?", nullptr, count),
+        tr("Clear History"), [this] { m_means.store.clear(); });
 }
 
 void HistoryActions::ask(QWidget& asking, const QString& question, const QString& action,
@@ -150,7 +153,7 @@ void HistoryActions::ask(QWidget& asking, const QString& question, const QString
         = new QMessageBox(QMessageBox::NoIcon, action, question, QMessageBox::Cancel, &asking);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(
-        u"Files that you saved stay where they are. Captures that are only here are gone then."_s);
+        tr("Files that you saved stay where they are. Captures that are only here are gone then."));
     const QPushButton* yes = box->addButton(action, QMessageBox::DestructiveRole);
     box->setDefaultButton(QMessageBox::Cancel);
     connect(yes, &QPushButton::clicked, this, std::move(confirmed));
@@ -163,7 +166,7 @@ void HistoryActions::openFolder()
     Files::ensureFolder(folder);
     m_means.workspace.open(folder).then([self = QPointer(this)](const Result<void>& opened) {
         if (self && !opened && !opened.error().isCancelled())
-            self->tell(u"Couldn't open the folder"_s, failure, opened.error().message);
+            self->tell(tr("Couldn't open the folder"), failure, opened.error().message);
     });
 }
 
@@ -178,17 +181,17 @@ void HistoryActions::fill(QMenu& menu, const QList<HistoryItem>& items, QWidget&
         connect(action, &QAction::triggered, this, act);
         return action;
     };
-    add(u"Open in Editor"_s, u"pencil"_s, isOne && canEdit(), [=, this] { edit(first); });
-    add(u"Copy"_s, copied, !isOne || m_means.shots.copy, [=, this] {
+    add(tr("Open in Editor"), u"pencil"_s, isOne && canEdit(), [=, this] { edit(first); });
+    add(tr("Copy"), copied, !isOne || m_means.shots.copy, [=, this] {
         copy(items);
     })->setShortcut(QKeySequence::Copy);
-    add(u"Pin to Screen"_s, u"pin"_s, bool(m_means.shots.pin), [=, this] {
+    add(tr("Pin to Screen"), u"pin"_s, bool(m_means.shots.pin), [=, this] {
         for (const auto& item : items)
             pin(item);
     });
     add(m_means.words.showInFolder, u"folder"_s, isOne, [=, this] { reveal(first); });
     menu.addSeparator();
-    add(u"Remove from History"_s, u"trash"_s, true, [=, this, asking = QPointer(&asking)] {
+    add(tr("Remove from History"), u"trash"_s, true, [=, this, asking = QPointer(&asking)] {
         if (asking)
             remove(items, *asking);
     })->setShortcut(QKeySequence::Delete);

@@ -79,7 +79,7 @@ HistoryCatalogue::HistoryCatalogue(const DayCalendar& calendar)
 
 QString HistoryCatalogue::wordsOf(const HistoryItem& item, const DayCalendar& calendar)
 {
-    return item.app + u' ' + fileName(item.path) + u' '
+    return item.appName() + u' ' + fileName(item.path) + u' '
         + calendar.locale.toString(calendar.day(item), QLocale::LongFormat) + u' '
         + calendar.time(item);
 }

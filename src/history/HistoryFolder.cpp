@@ -4,6 +4,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/SetAside.h"
+#include "base/Words.h"
 #include "history/FilePresence.h"
 #include "history/HistoryIndex.h"
 
@@ -43,7 +44,7 @@ Result<QList<HistoryItem>> HistoryFolder::read(const Folders& folders)
     auto items = text ? HistoryIndex::parse(std::move(*text)) : std::nullopt;
     if (!items)
         return Error::failed(
-            u"“%1” makes no sense as an index of captures."_s.arg(folder.m_indexPath));
+            Words::tr("“%1” makes no sense as an index of captures.").arg(folder.m_indexPath));
     FilePresence files(folder.m_folder, *items);
     items->removeIf([&files](const HistoryItem& item) { return !files.isThere(item.path); });
     return *std::move(items);
@@ -140,7 +141,8 @@ bool HistoryFolder::holdsCopyOf(const HistoryItem& item) const
 Result<void> HistoryFolder::writeCopy(const QString& id, const QByteArray& png)
 {
     if (!isHistoryId(id))
-        return Error::failed(u"Couldn't keep a copy of “%1”: this is no name for one."_s.arg(id));
+        return Error::failed(
+            Words::tr("Couldn't keep a copy of “%1”: this is no name for one.").arg(id));
     if (const auto usable = ensurePrivateFolder(m_folder); !usable)
         return usable;
     return writeFile(copyPath(id), png, ownerOnly);

@@ -13,8 +13,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int leastWidth = 200; // Of a card, in points.
@@ -33,7 +31,7 @@ HistoryGrid::HistoryGrid(const Themes& themes, HistoryStore& store, HistoryCatal
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     Accessible::describe(*this, {QAccessible::List, {}, std::make_shared<AccessibleCards>(*this)});
-    setAccessibleName(u"Captures"_s);
+    setAccessibleName(tr("Captures"));
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     m_lift.setStartValue(0.0);
@@ -132,7 +130,8 @@ void HistoryGrid::layOut()
         = m_catalogue.isSearching() ? CardPainter::Lines::Two : CardPainter::Lines::One;
     m_layout = HistoryLayout(sizes,
         {viewport()->width(), Space::window, Space::group, enlarged(leastWidth, theme),
-            CardPainter::height(theme, lines), theme.lineHeight(TextStyle::Title3) + Space::group});
+            CardPainter::height(theme, lines), theme.lineHeight(TextStyle::Title3) + Space::group,
+            layoutDirection()});
     const QScopedValueRollback returning(m_isReturning, true); // The range may cut it off.
     const int page = viewport()->height();
     verticalScrollBar()->setPageStep(page);

@@ -10,14 +10,15 @@
 
 namespace {
 
-std::optional<HistoryLayout::Move> moveOf(const QKeyEvent& event)
+/// The arrow keys go where they point, and cards follow one another in the direction of reading.
+std::optional<HistoryLayout::Move> moveOf(const QKeyEvent& event, Qt::LayoutDirection direction)
 {
     using Move = HistoryLayout::Move;
     switch (event.key()) {
     case Qt::Key_Left:
-        return Move::Left;
+        return direction == Qt::LeftToRight ? Move::Previous : Move::Next;
     case Qt::Key_Right:
-        return Move::Right;
+        return direction == Qt::LeftToRight ? Move::Next : Move::Previous;
     case Qt::Key_Up:
         return Move::Up;
     case Qt::Key_Down:
@@ -94,7 +95,7 @@ void HistoryGrid::mouseReleaseEvent(QMouseEvent* event)
 
 void HistoryGrid::keyPressEvent(QKeyEvent* event)
 {
-    const auto move = moveOf(*event);
+    const auto move = moveOf(*event, layoutDirection());
     if (move && m_layout.count() > 0) {
         const bool extends = event->modifiers() & Qt::ShiftModifier;
         choose(m_layout.moved(m_selection.current(), *move, viewport()->height()),

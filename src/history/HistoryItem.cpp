@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "history/HistoryItem.h"
 
+#include "base/Words.h"
+
 #include <QUuid>
 
 #include <algorithm>
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,6 +21,11 @@ QDateTime HistoryItem::time() const
 {
     constexpr double longest = 1e12; // Some 30,000 years.
     return std::abs(date) < longest ? epoch.addMSecs(std::llround(date * 1000)) : QDateTime();
+}
+
+QString HistoryItem::appName() const
+{
+    return app == "Screen"_L1 ? Words::tr("Screen") : app;
 }
 
 QSizeF HistoryItem::points() const

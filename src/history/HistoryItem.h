@@ -24,11 +24,12 @@ struct HistoryItem {
     int width = 0; ///< Pixels.
     int height = 0; ///< Pixels.
     double scale = 1; ///< Pixels per point.
-    QString app {}; ///< What it shows; may be empty.
+    QString app {}; ///< What it shows, as kept; may be empty.
     bool cached = false; ///< `path` is the store's own copy, which goes when the entry does.
     QList<OtherMember> others {};
 
     QDateTime time() const; ///< The date in UTC; invalid where no calendar has it.
+    QString appName() const; ///< The program it shows, or the screen, as the user calls it.
     QSizeF points() const; ///< Its size on the screen; pixels where the scale makes no sense.
 
     bool operator==(const HistoryItem&) const = default;

@@ -50,9 +50,9 @@ QRect HistoryLayout::card(int index) const
     // What is left over is spread evenly, to the point.
     const int inner = m_metrics.width - 2 * m_metrics.margin - (m_columns - 1) * m_metrics.gap;
     const int left = inner * column / m_columns, right = inner * (column + 1) / m_columns;
-    return {m_metrics.margin + left + column * m_metrics.gap,
-        section.top + m_metrics.headingHeight + row * rowHeight(), right - left,
-        m_metrics.cardHeight};
+    const int x = m_metrics.margin + left + column * m_metrics.gap, width = right - left;
+    return {m_metrics.direction == Qt::LeftToRight ? x : m_metrics.width - x - width,
+        section.top + m_metrics.headingHeight + row * rowHeight(), width, m_metrics.cardHeight};
 }
 
 int HistoryLayout::group(int index) const
@@ -108,9 +108,9 @@ int HistoryLayout::moved(int index, Move move, int page) const
     if (move == Move::First || (index == none && move != Move::Last))
         return 0;
     switch (move) {
-    case Move::Left:
+    case Move::Previous:
         return std::max(0, index - 1);
-    case Move::Right:
+    case Move::Next:
         return std::min(m_count - 1, index + 1);
     case Move::Up:
         return vertically(index, -1);

@@ -14,15 +14,16 @@ class HistoryLayout final {
 public:
     struct Metrics {
         int width = 0; ///< Of the content.
-        int margin = 0; ///< Left, right and at the foot.
+        int margin = 0; ///< At both sides and at the foot.
         int gap = 0; ///< Between cards, both ways.
         int least = 1; ///< Width of a card; what is left over widens them all alike.
         int cardHeight = 1;
         int headingHeight = 0;
+        Qt::LayoutDirection direction = Qt::LeftToRight; ///< That cards follow one another in.
 
         bool operator==(const Metrics&) const = default;
     };
-    enum class Move { Left, Right, Up, Down, PageUp, PageDown, First, Last };
+    enum class Move { Previous, Next, Up, Down, PageUp, PageDown, First, Last };
     static constexpr int none = -1;
 
     HistoryLayout() = default;

@@ -8,6 +8,7 @@
 #include "widgets/EmptyState.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 #include "widgets/Tile.h"
 
 #include <QHBoxLayout>
@@ -36,10 +37,10 @@ HistoryView::HistoryView(const Means& means, QWidget* parent)
     , m_grid(new HistoryGrid(means.themes, means.store, m_catalogue,
           [&texts = means.texts](const QString& id) { return texts.text(id); }))
     , m_noCaptures(new EmptyState(means.themes,
-          {u"photo.on.rectangle.angled"_s, u"No screenshots yet"_s,
-              u"Captures appear here as you take them."_s, u"Capture Region"_s}))
+          {u"photo.on.rectangle.angled"_s, tr("No screenshots yet"),
+              tr("Captures appear here as you take them."), tr("Capture Region")}))
     , m_noMatch(new EmptyState(
-          means.themes, {u"magnifyingglass"_s, u"No matches"_s, {}, u"Clear Search"_s}))
+          means.themes, {u"magnifyingglass"_s, tr("No matches"), {}, tr("Clear Search")}))
     , m_pages(new QStackedLayout)
 {
     auto* column = new QVBoxLayout(this);
@@ -74,31 +75,31 @@ HistoryView::HistoryView(const Means& means, QWidget* parent)
 QLayout* HistoryView::bar()
 {
     const Theme& theme = m_means.themes.current();
-    m_search->setPlaceholderText(u"Search app, file or date"_s);
+    m_search->setPlaceholderText(tr("Search app, file or date"));
     m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
     m_search
         ->addAction(Icons::icon(u"magnifyingglass"_s, theme.secondary), QLineEdit::LeadingPosition)
-        ->setText(u"Search"_s);
+        ->setText(tr("Search"));
     if (auto* clear = m_search->findChild<QAction*>(u"_q_qlineeditclearaction"_s))
-        clear->setText(u"Clear Search"_s); // The toolkit leaves it nameless.
+        clear->setText(tr("Clear Search")); // The toolkit leaves it nameless.
     m_search->setMinimumHeight(Extent::toolbar);
     m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, [this](const QString& query) {
         m_catalogue.setQuery(query);
         refresh();
     });
-    auto* open = GlassButton::ofText(m_means.themes, u"Open Folder"_s);
+    auto* open = GlassButton::ofText(m_means.themes, tr("Open Folder"));
     open->setSymbol(u"folder"_s);
     connect(open, &QAbstractButton::clicked, this, [this] { m_means.actions.openFolder(); });
-    auto* clear = GlassButton::ofText(m_means.themes, u"Clear History"_s);
+    auto* clear = GlassButton::ofText(m_means.themes, tr("Clear History"));
     clear->setSymbol(u"trash"_s);
     connect(clear, &QAbstractButton::clicked, this, [this] { m_means.actions.clear(*this); });
     m_clear = clear;
     auto* row = new QHBoxLayout;
     // Buttons bring room for the mark of the focus.
-    row->setContentsMargins(
-        Space::window, Space::group, Space::window - Space::tiny, Space::related);
+    row->setContentsMargins(mirrored(
+        QMargins(Space::window, Space::group, Space::window - Space::tiny, Space::related), *this));
     row->setSpacing(0);
     row->addWidget(m_search, 1);
     row->addSpacing(Space::tiny);
@@ -128,10 +129,10 @@ QWidget* HistoryView::hoverActions()
         return [this, act](const HistoryItem& item) { (m_means.actions.*act)(item); };
     };
     if (m_means.actions.canEdit())
-        add(u"pencil"_s, u"Open in Editor"_s, one(&HistoryActions::edit));
-    add(u"doc.on.doc"_s, u"Copy"_s,
+        add(u"pencil"_s, tr("Open in Editor"), one(&HistoryActions::edit));
+    add(u"doc.on.doc"_s, tr("Copy"),
         [this](const HistoryItem& item) { m_means.actions.copy({item}); });
-    add(u"pin"_s, u"Pin to Screen"_s, one(&HistoryActions::pin));
+    add(u"pin"_s, tr("Pin to Screen"), one(&HistoryActions::pin));
     return actions;
 }
 
@@ -167,7 +168,7 @@ void HistoryView::refresh()
         m_pages->setCurrentWidget(m_noMatch);
     else
         m_pages->setCurrentWidget(m_grid);
-    m_noMatch->setText(u"Nothing in your history matches “%1”."_s.arg(m_catalogue.query()));
+    m_noMatch->setText(tr("Nothing in your history matches “%1”.").arg(m_catalogue.query()));
 }
 
 void HistoryView::followCalendar()

@@ -7,8 +7,6 @@
 
 #include <QCursor>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QSize usualSize(900, 640);
@@ -34,7 +32,7 @@ void HistoryWindow::show()
     if (!m_view) {
         m_view = new HistoryView({m_themes, m_store, m_actions, m_texts});
         m_view->setAttribute(Qt::WA_DeleteOnClose);
-        m_view->setWindowTitle(u"History"_s);
+        m_view->setWindowTitle(tr("History"));
         m_view->setMinimumSize(leastSize);
         const auto screen = PanelPlacement::under(QCursor::pos(), PanelPlacement::screens());
         const QSize room = screen.workArea.size() - QSize(2 * Space::wide, 2 * Space::wide);

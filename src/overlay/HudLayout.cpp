@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "overlay/HudLayout.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -50,7 +52,7 @@ QString HudLayout::pixelText(QPoint pixel, QRgb colour)
 
 QString HudLayout::hintText(const QString& purpose)
 {
-    const QString keys
-        = u"Drag to select   •   Click a window   •   Space: whole screen   •   Esc: cancel"_s;
+    const QString keys = Words::tr(
+        "Drag to select   •   Click a window   •   Space: whole screen   •   Esc: cancel");
     return purpose.isEmpty() ? keys : purpose + u"   •   "_s + keys;
 }

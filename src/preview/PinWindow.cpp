@@ -41,7 +41,7 @@ PinWindow::PinWindow(const Surroundings& surroundings, const ShotActions& action
     , m_size(QSizeF(shot.image.size()) / shot.scale)
     , m_view(surroundings.themes, shot.image, this)
 {
-    setWindowTitle(u"Pinned capture"_s);
+    setWindowTitle(tr("Pinned capture"));
     setAccessibleName(windowTitle());
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -197,12 +197,12 @@ void PinWindow::contextMenuEvent(QContextMenuEvent* event)
         menu->addAction(Icons::icon(symbol, theme.text), text, this, slot);
     };
     if (m_actions.copy)
-        add(u"doc.on.doc"_s, u"Copy"_s, &PinWindow::copyImage);
+        add(u"doc.on.doc"_s, tr("Copy"), &PinWindow::copyImage);
     if (m_actions.edit)
-        add(u"pencil"_s, u"Open in Editor"_s, &PinWindow::edit);
-    add(u"arrow.up.left.and.down.right.magnifyingglass"_s, u"Actual Size"_s,
+        add(u"pencil"_s, tr("Open in Editor"), &PinWindow::edit);
+    add(u"arrow.up.left.and.down.right.magnifyingglass"_s, tr("Actual Size"),
         &PinWindow::actualSize);
-    add(u"xmark"_s, u"Close"_s, &PinWindow::closePin);
+    add(u"xmark"_s, tr("Close"), &PinWindow::closePin);
     menu->popup(event->globalPos());
 }
 

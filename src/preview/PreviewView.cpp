@@ -10,6 +10,7 @@
 #include "widgets/Enlarged.h"
 #include "widgets/GlassButton.h"
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 #include "widgets/TextLabel.h"
 
 #include <QDrag>
@@ -100,7 +101,7 @@ void PreviewView::makeThumbnail()
         Accessible::describe(*m_thumbnail, {QAccessible::Button, [this] { edit(); }});
     else
         Accessible::describe(*m_thumbnail, {QAccessible::Graphic});
-    m_thumbnail->setAccessibleName(m_actions.edit ? u"Edit"_s : m_content.info);
+    m_thumbnail->setAccessibleName(m_actions.edit ? tr("Edit") : m_content.info);
     if (const auto effect = EffectBorder::effect(m_prefs.get(Prefs::keys.previewEffect)))
         m_thumbnail->setBorder(std::make_unique<EffectBorder>(*effect,
             EffectPalette::colours(
@@ -113,7 +114,7 @@ void PreviewView::makeThumbnail()
 QLayout* PreviewView::header()
 {
     auto* row = new QHBoxLayout;
-    row->setContentsMargins(Space::group, 0, Space::tiny, 0);
+    row->setContentsMargins(mirrored(QMargins(Space::group, 0, Space::tiny, 0), *this));
     row->setSpacing(Space::related);
     row->addWidget(new HeaderSymbol(m_themes));
     auto* name = new QLabel(u"Pixmallow"_s);
@@ -125,7 +126,8 @@ QLayout* PreviewView::header()
     if (m_content.reaction)
         row->addWidget(new ReactionPill(m_themes, *m_content.reaction));
     row->addStretch();
-    auto* close = GlassButton::ofSymbol(m_themes, u"xmark"_s, u"Close"_s, GlassButton::Look::Plain);
+    auto* close
+        = GlassButton::ofSymbol(m_themes, u"xmark"_s, tr("Close"), GlassButton::Look::Plain);
     close->setSymbolExtent({Extent::control, Extent::control});
     connect(close, &QAbstractButton::clicked, this, &PreviewView::closeRequested);
     row->addWidget(close);
@@ -142,14 +144,14 @@ QLayout* PreviewView::actionRow()
         button->setEnabled(offered);
         return button;
     };
-    add(u"pencil"_s, u"Edit"_s, bool(m_actions.edit), [this] { edit(); });
-    add(u"doc.on.doc"_s, u"Copy"_s, bool(m_actions.copy),
+    add(u"pencil"_s, tr("Edit"), bool(m_actions.edit), [this] { edit(); });
+    add(u"doc.on.doc"_s, tr("Copy"), bool(m_actions.copy),
         [this, capture] { follow(m_actions.copy(capture)); });
-    add(u"square.and.arrow.down"_s, u"Save As…"_s, bool(m_actions.saveAs),
+    add(u"square.and.arrow.down"_s, tr("Save As…"), bool(m_actions.saveAs),
         [this, capture] { follow(m_actions.saveAs(capture, this)); });
-    add(u"pin"_s, u"Pin on top"_s, bool(m_actions.pin),
+    add(u"pin"_s, tr("Pin on top"), bool(m_actions.pin),
         [this, capture] { m_actions.pin(capture); });
-    auto* const share = add(u"square.and.arrow.up"_s, u"Share"_s, bool(m_actions.share), [] {});
+    auto* const share = add(u"square.and.arrow.up"_s, tr("Share"), bool(m_actions.share), [] {});
     connect(share, &QAbstractButton::clicked, this,
         [this, capture, share] { follow(m_actions.share(capture, share)); });
     add(u"folder"_s, m_content.revealTitle, bool(m_actions.reveal),
@@ -205,7 +207,7 @@ void PreviewView::setStatus(const QString& status)
 {
     m_status = status;
     const QString hint
-        = m_actions.edit ? u"Click to edit • Drag into any app"_s : u"Drag into any app"_s;
+        = m_actions.edit ? tr("Click to edit • Drag into any app") : tr("Drag into any app");
     m_hint->setText(status.isEmpty() ? hint : status);
     if (status.isEmpty())
         return;
@@ -248,6 +250,6 @@ void PreviewView::paintEvent(QPaintEvent*)
     painter.setClipPath(CardFrame::outline(rect()));
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
-    const QRectF bar(0, height() - barHeight, width() * left, barHeight);
+    const QRectF bar = mirrored(QRectF(0, height() - barHeight, width() * left, barHeight), *this);
     painter.drawRoundedRect(bar, barHeight / 2, barHeight / 2);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "shortcuts/KeyCombo.h"
 
+#include "base/Words.h"
+
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -32,10 +34,17 @@ constexpr KeyName named[] = {{29, u"0"}, {18, u"1"}, {19, u"2"}, {20, u"3"}, {21
     {50, u"`"}};
 
 /// What is printed on a key that is called by a sign or by a name of another keyboard.
-constexpr KeyName spelledNames[] = {{36, u"Return"}, {48, u"Tab"}, {123, u"Left"}, {124, u"Right"},
-    {126, u"Up"}, {125, u"Down"}, {51, u"Backspace"}, {76, u"Enter"}, {110, u"Menu"},
-    {114, u"Insert"}, {115, u"Home"}, {116, u"Page Up"}, {117, u"Delete"}, {119, u"End"},
-    {121, u"Page Down"}, {105, u"Print"}, {107, u"Scroll Lock"}, {113, u"Pause"}};
+constexpr std::pair<std::uint32_t, const char*> spelledNames[]
+    = {{36, QT_TRANSLATE_NOOP("Words", "Return")}, {48, QT_TRANSLATE_NOOP("Words", "Tab")},
+        {123, QT_TRANSLATE_NOOP("Words", "Left")}, {124, QT_TRANSLATE_NOOP("Words", "Right")},
+        {126, QT_TRANSLATE_NOOP("Words", "Up")}, {125, QT_TRANSLATE_NOOP("Words", "Down")},
+        {51, QT_TRANSLATE_NOOP("Words", "Backspace")}, {76, QT_TRANSLATE_NOOP("Words", "Enter")},
+        {110, QT_TRANSLATE_NOOP("Words", "Menu")}, {114, QT_TRANSLATE_NOOP("Words", "Insert")},
+        {115, QT_TRANSLATE_NOOP("Words", "Home")}, {116, QT_TRANSLATE_NOOP("Words", "Page Up")},
+        {117, QT_TRANSLATE_NOOP("Words", "Delete")}, {119, QT_TRANSLATE_NOOP("Words", "End")},
+        {121, QT_TRANSLATE_NOOP("Words", "Page Down")}, {105, QT_TRANSLATE_NOOP("Words", "Print")},
+        {107, QT_TRANSLATE_NOOP("Words", "Scroll Lock")},
+        {113, QT_TRANSLATE_NOOP("Words", "Pause")}, {49, QT_TRANSLATE_NOOP("Words", "Space")}};
 
 /// Signs for keys that type nothing.
 constexpr std::pair<int, QStringView> signs[]
@@ -48,14 +57,15 @@ struct ModifierName {
     std::uint32_t mask;
     Qt::KeyboardModifier toolkit;
     QChar glyph;
-    QStringView spelled;
+    const char* spelled; ///< In English, for Words::tr().
 };
 
 /// In the order in which they are shown.
-constexpr ModifierName modifierNames[] = {{KeyChord::Control, Qt::ControlModifier, u'⌃', u"Ctrl"},
-    {KeyChord::Option, Qt::AltModifier, u'⌥', u"Alt"},
-    {KeyChord::Shift, Qt::ShiftModifier, u'⇧', u"Shift"},
-    {KeyChord::Command, Qt::MetaModifier, u'⌘', u"Super"}};
+constexpr ModifierName modifierNames[]
+    = {{KeyChord::Control, Qt::ControlModifier, u'⌃', QT_TRANSLATE_NOOP("Words", "Ctrl")},
+        {KeyChord::Option, Qt::AltModifier, u'⌥', QT_TRANSLATE_NOOP("Words", "Alt")},
+        {KeyChord::Shift, Qt::ShiftModifier, u'⇧', QT_TRANSLATE_NOOP("Words", "Shift")},
+        {KeyChord::Command, Qt::MetaModifier, u'⌘', QT_TRANSLATE_NOOP("Words", "Super")}};
 
 /// Empty where the table has none.
 QStringView nameIn(std::span<const KeyName> table, std::uint32_t keyCode)
@@ -143,7 +153,8 @@ QString KeyCombo::spelled() const
     QString result;
     for (const auto& modifier : modifierNames)
         if (modifiers & modifier.mask)
-            result += modifier.spelled.toString() + u'+';
-    const auto name = nameIn(spelledNames, keyCode);
-    return result + (name.isEmpty() ? key : name.toString());
+            result += Words::tr(modifier.spelled) + u'+';
+    const auto name
+        = std::ranges::find(spelledNames, keyCode, &std::pair<std::uint32_t, const char*>::first);
+    return result + (name == std::end(spelledNames) ? key : Words::tr(name->second));
 }

@@ -80,7 +80,7 @@ void ShortcutRecorder::stop()
 void ShortcutRecorder::adopt()
 {
     m_combo = KeyCombo::fromText(m_means.prefs.get(m_key));
-    setText(m_recording ? u"Type shortcut…"_s : m_combo ? m_combo->display() : u"None"_s);
+    setText(m_recording ? tr("Type shortcut…") : m_combo ? m_combo->display() : tr("None"));
     setToolTip(
         m_combo ? m_combo->spelled() : QString()); // In words for who does not know the signs.
     update();

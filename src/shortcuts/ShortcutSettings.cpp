@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shortcuts/ShortcutSettings.h"
 
+#include "base/Words.h"
 #include "widgets/SymbolLabel.h"
 
 #include <QHBoxLayout>
@@ -46,7 +47,7 @@ ShortcutSettings::Line ShortcutSettings::line(RowGroup& tile, const CaptureKindI
 
 QString ShortcutSettings::title(const CaptureKindInfo& info) const
 {
-    const QString title = info.title;
+    const QString title = Words::tr(info.title);
     return title.contains(u"%1"_s)
         ? title.arg(m_means.recording.prefs.get(Prefs::keys.delaySeconds))
         : title;
@@ -75,9 +76,9 @@ QString ShortcutSettings::problem(CaptureKind kind) const
             break;
         const auto other = comboOf(earlier.kind);
         if (combo && other && other->chord() == combo->chord())
-            return u"“%1” has the same keys."_s.arg(title(earlier));
+            return tr("“%1” has the same keys.").arg(title(earlier));
     }
-    return u"Your desktop or another program has these keys."_s;
+    return tr("Your desktop or another program has these keys.");
 }
 
 void ShortcutSettings::stopOthers(const ShortcutRecorder* starting)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "skins/Skins.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,16 @@ std::optional<QColor> colorOf(const std::optional<QString>& hex)
 }
 
 } // namespace
+
+QString Skin::name() const
+{
+    return Words::tr(englishName);
+}
+
+QString Skin::desc() const
+{
+    return Words::tr(englishDesc);
+}
 
 std::optional<QColor> Skin::accent() const
 {
@@ -52,20 +64,26 @@ void Skins::install()
 const QList<Skin>& Skins::all()
 {
     static const QList<Skin> skins {
-        {u"default"_s, u"macOS"_s, u"🍎"_s, u"Your system appearance and accent colour"_s, {}, {},
-            {}, 0, u"comet"_s, u"accent"_s, u"Screen Capture"_s, u"flash"_s},
-        {u"kawaii"_s, u"Kawaii Pastel"_s, u"🎀"_s, u"Soft pink, bubbly pops and sparkles"_s,
-            u"light"_s, u"#FF6FB5"_s, u"#FFD6EA"_s, 0.55, u"pulse"_s, u"candy"_s, u"Pop"_s,
-            u"sparkles"_s},
-        {u"cyber"_s, u"Cyber Neon"_s, u"👾"_s, u"Dark purple, neon cyan, laser zaps"_s, u"dark"_s,
+        {u"default"_s, QT_TRANSLATE_NOOP("Words", "macOS"), u"🍎"_s,
+            QT_TRANSLATE_NOOP("Words", "Your system appearance and accent colour"), {}, {}, {}, 0,
+            u"comet"_s, u"accent"_s, u"Screen Capture"_s, u"flash"_s},
+        {u"kawaii"_s, QT_TRANSLATE_NOOP("Words", "Kawaii Pastel"), u"🎀"_s,
+            QT_TRANSLATE_NOOP("Words", "Soft pink, bubbly pops and sparkles"), u"light"_s,
+            u"#FF6FB5"_s, u"#FFD6EA"_s, 0.55, u"pulse"_s, u"candy"_s, u"Pop"_s, u"sparkles"_s},
+        {u"cyber"_s, QT_TRANSLATE_NOOP("Words", "Cyber Neon"), u"👾"_s,
+            QT_TRANSLATE_NOOP("Words", "Dark purple, neon cyan, laser zaps"), u"dark"_s,
             u"#00E5FF"_s, u"#1A0B2E"_s, 0.6, u"comet"_s, u"neon"_s, u"Zap"_s, u"pixels"_s},
-        {u"matcha"_s, u"Matcha"_s, u"🍵"_s, u"Calm greens and quiet clicks"_s, u"light"_s,
-            u"#5E9C4C"_s, u"#E3EED6"_s, 0.55, u"pulse"_s, u"mint"_s, u"Tink"_s, u"fly"_s},
-        {u"midnight"_s, u"Midnight"_s, u"🌙"_s, u"Deep indigo with a gentle chime"_s, u"dark"_s,
-            u"#9B7BFF"_s, u"#120F24"_s, 0.6, u"comet"_s, u"aurora"_s, u"Glass"_s, u"sparkles"_s},
-        {u"sunset"_s, u"Sunset"_s, u"🌅"_s, u"Warm dusk tones and confetti"_s, u"dark"_s,
-            u"#FF7A59"_s, u"#2A1416"_s, 0.55, u"spin"_s, u"sunset"_s, u"Boom"_s, u"confetti"_s},
-        {u"y2k"_s, u"Y2K"_s, u"💿"_s, u"Chrome blue, 8-bit coins, early-internet energy"_s,
+        {u"matcha"_s, QT_TRANSLATE_NOOP("Words", "Matcha"), u"🍵"_s,
+            QT_TRANSLATE_NOOP("Words", "Calm greens and quiet clicks"), u"light"_s, u"#5E9C4C"_s,
+            u"#E3EED6"_s, 0.55, u"pulse"_s, u"mint"_s, u"Tink"_s, u"fly"_s},
+        {u"midnight"_s, QT_TRANSLATE_NOOP("Words", "Midnight"), u"🌙"_s,
+            QT_TRANSLATE_NOOP("Words", "Deep indigo with a gentle chime"), u"dark"_s, u"#9B7BFF"_s,
+            u"#120F24"_s, 0.6, u"comet"_s, u"aurora"_s, u"Glass"_s, u"sparkles"_s},
+        {u"sunset"_s, QT_TRANSLATE_NOOP("Words", "Sunset"), u"🌅"_s,
+            QT_TRANSLATE_NOOP("Words", "Warm dusk tones and confetti"), u"dark"_s, u"#FF7A59"_s,
+            u"#2A1416"_s, 0.55, u"spin"_s, u"sunset"_s, u"Boom"_s, u"confetti"_s},
+        {u"y2k"_s, QT_TRANSLATE_NOOP("Words", "Y2K"), u"💿"_s,
+            QT_TRANSLATE_NOOP("Words", "Chrome blue, 8-bit coins, early-internet energy"),
             u"light"_s, u"#4F7CFF"_s, u"#E8F0FF"_s, 0.6, u"spin"_s, u"rainbow"_s, u"Coin"_s,
             u"confetti"_s},
     };

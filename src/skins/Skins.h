@@ -8,9 +8,9 @@
 /// A theme that sets colours, preview effect, capture sound and animation in one go.
 struct Skin {
     QString id; ///< As kept in the preferences.
-    QString name;
+    const char* englishName;
     QString emoji;
-    QString desc;
+    const char* englishDesc;
     std::optional<QString> mode; ///< "light" or "dark"; none follows the desktop.
     std::optional<QString> accentHex; ///< #RRGGBB; none leaves the desktop's accent.
     std::optional<QString> tintHex; ///< #RRGGBB, of backgrounds.
@@ -20,6 +20,8 @@ struct Skin {
     QString sound;
     QString animation; ///< Of the capture.
 
+    QString name() const; ///< In the language of the user.
+    QString desc() const;
     std::optional<QColor> accent() const;
     std::optional<QColor> tint() const;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "skins/Sounds.h"
 
+#include "base/Words.h"
+
 #include <QDir>
 #include <QStandardPaths>
 
@@ -140,6 +142,6 @@ Result<void> Sounds::check(const QString& name) const
 {
     const auto file = url(name);
     if (!file)
-        return Error::failed(u"There is no sound named “%1”."_s.arg(name));
+        return Error::failed(Words::tr("There is no sound named “%1”.").arg(name));
     return m_output.check(*file);
 }

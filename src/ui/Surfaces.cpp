@@ -4,8 +4,6 @@
 
 #include "ui/settings/SampleCapture.h"
 
-using namespace Qt::StringLiterals;
-
 Surfaces::Surfaces(
     DesktopPlatform& platform, Prefs& prefs, Rooms& rooms, AppState& state, HotkeyCenter& hotkeys)
     : m_platform(platform)
@@ -35,7 +33,7 @@ void Surfaces::showSettings()
 QString Surfaces::updateNotice() const
 {
     const auto& found = m_rooms.updater().available();
-    return found ? u"Update to %1"_s.arg(found->version) : QString();
+    return found ? tr("Update to %1").arg(found->version) : QString();
 }
 
 /// Over the middle of the screen under the pointer, as if that had been captured.

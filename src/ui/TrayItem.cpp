@@ -3,6 +3,7 @@
 #include "ui/TrayItem.h"
 
 #include "app/AppState.h"
+#include "base/Words.h"
 #include "ui/TrayIcon.h"
 
 #include <QApplication>
@@ -56,7 +57,7 @@ void TrayItem::fillMenu()
     for (const auto& info : captureKinds) {
         if (!m_state.isAvailable(info.kind))
             continue;
-        QString title = info.title;
+        QString title = Words::tr(info.title);
         if (title.contains(u"%1"_s))
             title = title.arg(m_prefs.get(Prefs::keys.delaySeconds));
         auto* action
@@ -65,8 +66,8 @@ void TrayItem::fillMenu()
             label(*action, *shortcut);
     }
     m_menu.addSeparator();
-    m_menu.addAction(u"Settings…"_s, &m_state, &AppState::settingsRequested);
-    m_menu.addAction(u"Quit Pixmallow"_s, qApp, &QCoreApplication::quit);
+    m_menu.addAction(tr("Settings…"), &m_state, &AppState::settingsRequested);
+    m_menu.addAction(tr("Quit Pixmallow"), qApp, &QCoreApplication::quit);
 }
 
 void TrayItem::adoptLabel()

@@ -4,8 +4,6 @@
 
 #include "update/UpdateRules.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int mostRedirections = 10;
@@ -104,7 +102,7 @@ void HttpGet::followRedirection()
     if (QUrl(target).isRelative())
         target = m_reply->url().resolved(QUrl(target)).toString(QUrl::FullyEncoded);
     if (++m_redirections > mostRedirections)
-        return m_answer(Error::failed(u"the server sends from one address to the next"_s));
+        return m_answer(Error::failed(tr("the server sends from one address to the next")));
     send(target);
 }
 
@@ -114,6 +112,6 @@ std::optional<Error> HttpGet::transferError() const
     if (error == QNetworkReply::NoError || isAboutStatus(error))
         return {};
     if (error == QNetworkReply::OperationCanceledError)
-        return Error::failed(u"the server did not answer in time"_s);
+        return Error::failed(tr("the server did not answer in time"));
     return Error::failed(m_reply->errorString());
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "update/UpdateRules.h"
 
+#include "base/Words.h"
+
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -57,14 +59,14 @@ Error errorOf(UpdateError error)
 {
     switch (error) {
     case UpdateError::Invalid:
-        return Error::failed(u"the update file is incomplete"_s);
+        return Error::failed(Words::tr("the update file is incomplete"));
     case UpdateError::Insecure:
-        return Error::failed(u"updates must use HTTPS"_s);
+        return Error::failed(Words::tr("updates must use HTTPS"));
     case UpdateError::Checksum:
         break;
     }
     return Error::failed(
-        u"the download didn't match its checksum, so it wasn't opened. Try again later."_s);
+        Words::tr("the download didn't match its checksum, so it wasn't opened. Try again later."));
 }
 
 int UpdateRules::compare(const QString& a, const QString& b)

@@ -71,7 +71,7 @@ void Updater::check(bool manual)
     const UpdateSource& source = m_sources.source;
     m_check = std::make_unique<HttpGet>(
         HttpGet::Request {source.feed, source.userAgent(), patience}, take);
-    m_status = u"Checking…"_s;
+    m_status = tr("Checking…");
     Q_EMIT changed();
     m_check->run().then([updater = QPointer(this), manual](const Result<void>& fetched) {
         if (updater)
@@ -88,7 +88,7 @@ void Updater::finishCheck(bool manual, const Result<void>& fetched)
         m_sources.prefs.set(Prefs::keys.lastUpdateCheck, m_sources.now());
         tellFound(*found, manual);
     } else {
-        m_status = u"Couldn't check for updates: "_s + found.error().message;
+        m_status = tr("Couldn't check for updates: %1").arg(found.error().message);
     }
     Q_EMIT changed();
 }
@@ -98,11 +98,11 @@ void Updater::tellFound(const std::optional<UpdateInfo>& found, bool manual)
     if (!found || UpdateRules::compare(found->version, currentVersion()) < 1) {
         m_available.reset();
         m_status
-            = u"You're up to date — Pixmallow %1 is the latest version."_s.arg(currentVersion());
+            = tr("You're up to date — Pixmallow %1 is the latest version.").arg(currentVersion());
         return;
     }
     m_available = found;
-    m_status = u"Pixmallow %1 is available."_s.arg(found->version);
+    m_status = tr("Pixmallow %1 is available.").arg(found->version);
     if (manual || m_sources.prefs.get(Prefs::keys.skipVersion) != found->version)
         Q_EMIT panelWanted(*found);
 }
@@ -116,7 +116,7 @@ Pending<void> Updater::install(const UpdateInfo& info, Progress progress)
 {
     auto [pending, asked] = Pending<void>::ask();
     const auto answer = std::make_shared<Pending<void>::Answer>(std::move(asked));
-    progress(u"Downloading…"_s);
+    progress(tr("Downloading…"));
     QDir().mkpath(m_sources.downloads);
     const QString path = m_sources.downloads + u'/'
         + UpdateRules::fileName(info.version, m_sources.source.fileSuffix);
@@ -126,7 +126,7 @@ Pending<void> Updater::install(const UpdateInfo& info, Progress progress)
         if (downloaded && updater)
             return updater->open(path, progress, std::move(*answer));
         if (!downloaded && !downloaded.error().isCancelled())
-            progress(u"Update failed: "_s + downloaded.error().message);
+            progress(tr("Update failed: %1").arg(downloaded.error().message));
         (*answer)(downloaded);
     });
     return std::move(pending);
@@ -143,7 +143,7 @@ void Updater::open(const QString& path, const Progress& progress, Pending<void>:
     const auto asker = std::make_shared<Pending<void>::Answer>(std::move(answer));
     const QString opened = m_sources.words.updateOpened.arg(QFileInfo(path).fileName());
     m_sources.workspace.open(path).then([=](const Result<void>& result) {
-        progress(result ? opened : u"Update failed: "_s + result.error().message);
+        progress(result ? opened : tr("Update failed: %1").arg(result.error().message));
         (*asker)(result);
     });
 }

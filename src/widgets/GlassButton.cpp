@@ -5,6 +5,7 @@
 #include "widgets/Contrast.h"
 #include "widgets/Enlarged.h"
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 #include "widgets/Motion.h"
 
 #include <QKeyEvent>
@@ -109,11 +110,11 @@ void GlassButton::paintEvent(QPaintEvent*)
     painter.setPen(ink());
     if (!m_symbol.isEmpty()) {
         box.adjust(Space::group, 0, -Space::group, 0);
-        const QRectF left(box.topLeft(), QSizeF(symbolExtent(), box.height()));
-        Icons::paint(painter, m_symbol, left, symbolExtent(), ink());
-        box.setLeft(left.right() + Space::related);
+        const QRectF first(box.topLeft(), QSizeF(symbolExtent(), box.height()));
+        Icons::paint(painter, m_symbol, mirrored(first, *this), symbolExtent(), ink());
+        box.setLeft(first.right() + Space::related);
     }
-    painter.drawText(box, Qt::AlignCenter, text());
+    painter.drawText(mirrored(box, *this), Qt::AlignCenter, text());
 }
 
 int GlassButton::symbolExtent() const

@@ -3,6 +3,7 @@
 #include "widgets/IconFiles.h"
 
 #include <QHash>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -84,6 +85,9 @@ const QHash<QString, QString> files {
 
 const QString unknown = u"question"_s;
 
+const QSet<QString> directed {u"arrow.uturn.backward"_s, u"arrow.uturn.forward"_s,
+    u"arrow.up.forward.app"_s, u"chevron.right"_s};
+
 } // namespace
 
 QStringList IconFiles::symbols()
@@ -94,6 +98,11 @@ QStringList IconFiles::symbols()
 bool IconFiles::has(const QString& symbol)
 {
     return files.contains(symbol);
+}
+
+bool IconFiles::hasDirection(const QString& symbol)
+{
+    return directed.contains(symbol);
 }
 
 QString IconFiles::nameOf(const QString& symbol)

@@ -5,6 +5,7 @@
 #include "widgets/IconFiles.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
@@ -59,6 +60,7 @@ public:
         QPixmap pixmap(pixels);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
+        painter.setLayoutDirection(QGuiApplication::layoutDirection());
         paint(&painter, {{}, pixels}, mode, state);
         return pixmap;
     }
@@ -104,7 +106,16 @@ void Icons::paint(
     // On whole device pixels, or it would be blurred.
     const auto whole = [scale](double at) { return std::round(at * scale) / scale; };
     const QPointF corner = box.center() - QPointF(size, size) / 2;
-    painter.drawPixmap(QPointF(whole(corner.x()), whole(corner.y())), drawn);
+    const QPointF place(whole(corner.x()), whole(corner.y()));
+    if (painter.layoutDirection() == Qt::LeftToRight || !IconFiles::hasDirection(symbol)) {
+        painter.drawPixmap(place, drawn);
+        return;
+    }
+    const QTransform before = painter.transform();
+    painter.translate(2 * place.x() + size, 0);
+    painter.scale(-1, 1);
+    painter.drawPixmap(place, drawn);
+    painter.setTransform(before);
 }
 
 QIcon Icons::icon(const QString& symbol, const QColor& colour, const QColor& active)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/OverflowRow.h"
 
+#include "widgets/Mirrored.h"
+
 #include <QEvent>
 #include <QStyle>
 
@@ -42,7 +44,7 @@ std::vector<bool> OverflowRules::shown(
 
 OverflowRow::OverflowRow(const Themes& themes, QWidget* parent)
     : QWidget(parent)
-    , m_more(GlassButton::ofSymbol(themes, u"ellipsis"_s, u"More"_s, GlassButton::Look::Plain))
+    , m_more(GlassButton::ofSymbol(themes, u"ellipsis"_s, tr("More"), GlassButton::Look::Plain))
 {
     m_more->setParent(this);
     connect(m_more, &QAbstractButton::clicked, this, &OverflowRow::openMenu);
@@ -132,5 +134,5 @@ void OverflowRow::openMenu()
     for (const Item& item : m_items)
         if (!item.control->isVisible())
             item.entry(*menu);
-    menu->popup(m_more->mapToGlobal(QPoint(0, m_more->height())));
+    menu->popup(placeBelow(*m_more, *menu));
 }

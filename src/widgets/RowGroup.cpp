@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/RowGroup.h"
 
+#include "widgets/Mirrored.h"
 #include "widgets/TextLabel.h"
 #include "widgets/Tile.h"
 
@@ -26,8 +27,9 @@ protected:
             if (row->isEmpty()) // Hidden.
                 continue;
             if (!std::exchange(isFirst, false))
-                painter.fillRect(QRectF(Space::group, row->geometry().top(),
-                                     width() - Space::group - 1, Extent::hairline),
+                painter.fillRect(mirrored(QRectF(Space::group, row->geometry().top(),
+                                              width() - Space::group - 1, Extent::hairline),
+                                     *this),
                     theme().hairline);
         }
     }
@@ -44,7 +46,7 @@ RowGroup::RowGroup(const Themes& themes, const QString& heading)
     if (!heading.isEmpty()) {
         auto* label = new TextLabel(m_themes, TextStyle::Headline, TextLabel::Role::Secondary);
         label->setText(heading);
-        label->setContentsMargins(Space::tiny, 0, 0, 0);
+        label->setContentsMargins(mirrored(QMargins(Space::tiny, 0, 0, 0), *this));
         m_column->addWidget(label);
     }
     auto* ground = new Ground(m_themes);

@@ -3,6 +3,7 @@
 #include "widgets/ShareMenu.h"
 
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 
 #include <QPointer>
 #include <QScreen>
@@ -14,12 +15,12 @@ ShareMenu::ShareMenu(const Means& means, File file, QWidget* parent)
     , m_means(means)
     , m_file(std::move(file))
 {
-    add(u"envelope"_s, u"Mail…"_s, u"Attached to a new mail"_s, Counts::AsShared,
+    add(u"envelope"_s, tr("Mail…"), tr("Attached to a new mail"), Counts::AsShared,
         [this](const QString& path) { return m_means.workspace.mail(path); });
-    add(u"arrow.up.forward.app"_s, u"Open With…"_s, u"Opened in another program"_s,
+    add(u"arrow.up.forward.app"_s, tr("Open With…"), tr("Opened in another program"),
         Counts::AsShared, [this](const QString& path) { return m_means.workspace.openWith(path); });
     addSeparator();
-    add(u"doc.on.doc"_s, u"Copy File"_s, u"File copied to clipboard"_s, Counts::AsShared,
+    add(u"doc.on.doc"_s, tr("Copy File"), tr("File copied to clipboard"), Counts::AsShared,
         [this](const QString& path) {
             m_means.clipboard.setFiles({path});
             return Pending<void>::answered({});
@@ -39,8 +40,8 @@ void ShareMenu::openBelow(const QWidget& control)
     const QRect screen = control.screen()->availableGeometry();
     const int height = sizeHint().height();
     const bool fits = at.bottom() + Space::tiny + height <= screen.bottom();
-    popup(fits ? at.bottomLeft() + QPoint(0, Space::tiny)
-               : at.topLeft() - QPoint(0, Space::tiny + height));
+    const QPoint below = placeBelow(control, *this) + QPoint(0, Space::tiny);
+    popup(fits ? below : QPoint(below.x(), at.top() - Space::tiny - height));
 }
 
 void ShareMenu::add(const QString& symbol, const QString& title, const QString& status,

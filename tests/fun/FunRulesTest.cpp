@@ -57,7 +57,7 @@ TEST(FunRules, aPetGrowsAtItsPoints)
              Row {4840, 12, u"Legendary Dragon"_s, u"Fully evolved"_s},
          }) {
         EXPECT_EQ(Pet::level(xp), level) << xp;
-        EXPECT_EQ(Pet::stageNames[Pet::stage(level)], stage) << xp;
+        EXPECT_EQ(QLatin1String(Pet::stageNames[Pet::stage(level)]), stage) << xp;
         EXPECT_EQ(Pet::nextStage(level), next) << xp;
     }
     for (qint64 n = 2; 40 * (n - 1) * (n - 1) <= FunStats::most; n += 1 + n / 50) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Pixmallow authors
 // SPDX-License-Identifier: MIT
 #include "tests/gallery/Gallery.h"
+#include "base/Language.h"
 
 #include <QApplication>
 #include <QDir>
@@ -48,11 +49,12 @@ QImage page(GalleryWorld& world)
 } // namespace
 
 /// gallery FOLDER: one page for each skin, light and dark where the skin leaves that open. The
-/// environment of the toolkit sets the scale.
+/// environment sets the scale and the language, the option -reverse mirrors all.
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    Language::install();
     const auto arguments = QCoreApplication::arguments();
     if (arguments.size() != 2) {
         std::fputs("usage: gallery FOLDER\n", stderr);

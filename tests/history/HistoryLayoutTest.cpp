@@ -63,6 +63,23 @@ TEST(HistoryLayoutTest, everyCardHasAPlaceOfItsOwnAndIsFoundThere)
     }
 }
 
+TEST(HistoryLayoutTest, isMirroredForThoseWhoReadFromTheRight)
+{
+    for (int round = 0; round < 100; ++round) {
+        const auto sizes = anySizes();
+        auto metrics = anyMetrics();
+        const HistoryLayout layout(sizes, metrics);
+        metrics.direction = Qt::RightToLeft;
+        const HistoryLayout mirrored(sizes, metrics);
+        for (int i = 0; i < layout.count(); ++i) {
+            const QRect card = layout.card(i), other = mirrored.card(i);
+            ASSERT_EQ(other.left() + card.right() + 1, metrics.width);
+            ASSERT_EQ(other.size(), card.size());
+            ASSERT_EQ(mirrored.cardAt(other.center()), i);
+        }
+    }
+}
+
 TEST(HistoryLayoutTest, whatIsSeenIsExactlyWhatReachesIn)
 {
     for (int round = 0; round < 300; ++round) {
@@ -98,7 +115,7 @@ TEST(HistoryLayoutTest, keysReachEveryCardAndNeverLeave)
         }
         const int from = any(layout.count());
         const QRect card = layout.card(from);
-        for (const Move move : {Move::Left, Move::Right, Move::Up, Move::Down, Move::PageUp,
+        for (const Move move : {Move::Previous, Move::Next, Move::Up, Move::Down, Move::PageUp,
                  Move::PageDown, Move::First, Move::Last}) {
             const int to = layout.moved(from, move, 500);
             ASSERT_TRUE(to >= 0 && to < layout.count());
@@ -112,7 +129,7 @@ TEST(HistoryLayoutTest, keysReachEveryCardAndNeverLeave)
         EXPECT_EQ(layout.moved(from, Move::First, 500), 0);
         EXPECT_EQ(layout.moved(HistoryLayout::none, Move::Last, 500), layout.count() - 1);
         for (int i = 0; i < layout.count(); ++i)
-            ASSERT_EQ(layout.moved(i, Move::Right, 500), std::min(i + 1, layout.count() - 1));
+            ASSERT_EQ(layout.moved(i, Move::Next, 500), std::min(i + 1, layout.count() - 1));
     }
 }
 

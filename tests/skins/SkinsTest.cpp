@@ -33,7 +33,7 @@ TEST_F(SkinsTest, everySkinIsWholeAndAudible)
     for (const auto& skin : Skins::all()) {
         SCOPED_TRACE(skin.id.toStdString());
         ids << skin.id;
-        EXPECT_EQ(Skins::find(skin.id).name, skin.name);
+        EXPECT_EQ(Skins::find(skin.id).id, skin.id);
         EXPECT_EQ(skin.accentHex.has_value(), skin.id != u"default"_s);
         EXPECT_EQ(skin.tintHex.has_value(), skin.tintAmount > 0);
         EXPECT_TRUE(!skin.accentHex || skin.accent()->isValid());

@@ -5,6 +5,7 @@
 #include "base/AtomicFile.h"
 #include "base/Folders.h"
 #include "base/PngWriter.h"
+#include "base/Words.h"
 #include "capture/Pixels.h"
 #include "history/HistoryItem.h"
 
@@ -66,7 +67,7 @@ Result<void> EditFolder::write(const Name& name, const KeptEdit& edit)
             return written;
     const QByteArray bytes = record.encoded();
     if (bytes.size() > EditRecord::largest)
-        return Error::failed(u"There are too many marks to keep them editable."_s);
+        return Error::failed(Words::tr("There are too many marks to keep them editable."));
     return writeFile(pathOf(name), bytes, ownerOnly);
 }
 
@@ -84,7 +85,7 @@ Result<EditRecord> EditFolder::readRecord(const Name& name) const
 {
     QFile file(pathOf(name));
     if (!file.open(QIODevice::ReadOnly))
-        return Error::failed(u"The record of an edit is missing."_s);
+        return Error::failed(Words::tr("The record of an edit is missing."));
     return EditRecord::decoded(file.read(EditRecord::largest + 1));
 }
 
@@ -96,7 +97,7 @@ Result<KeptEdit> EditFolder::read(const Name& name) const
     QImageReader reader(picturePath(name.owner, record->base), "png");
     const QImage picture = reader.read();
     if (picture.isNull() || PixelHash::of(picture) != record->base)
-        return Error::failed(u"The picture of an edit is missing or damaged."_s);
+        return Error::failed(Words::tr("The picture of an edit is missing or damaged."));
     record->edit.capture.shot.image = picture;
     return std::move(record->edit);
 }

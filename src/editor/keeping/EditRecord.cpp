@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "editor/keeping/EditRecord.h"
 
+#include "base/Words.h"
 #include "editor/keeping/RecordBytes.h"
 
 #include <xxhash.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -133,7 +132,7 @@ QByteArray EditRecord::encoded() const
 
 Result<EditRecord> EditRecord::decoded(QByteArrayView bytes)
 {
-    const auto damaged = Error::failed(u"The record of an edit is damaged."_s);
+    const auto damaged = Error::failed(Words::tr("The record of an edit is damaged."));
     if (bytes.size() > largest || bytes.size() < checksumSize)
         return damaged;
     const auto content = bytes.chopped(checksumSize);
@@ -141,7 +140,8 @@ Result<EditRecord> EditRecord::decoded(QByteArrayView bytes)
     if (from.number<quint32>() != magic)
         return damaged;
     if (const auto stated = from.number<quint16>(); stated > version)
-        return Error::failed(u"The record of an edit is of a newer version of Pixmallow."_s);
+        return Error::failed(
+            Words::tr("The record of an edit is of a newer version of Pixmallow."));
     else if (stated != version
         || RecordReader(bytes.last(checksumSize)).number<quint64>() != checksum(content))
         return damaged;

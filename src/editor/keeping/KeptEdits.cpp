@@ -56,7 +56,7 @@ void KeptEdits::takeStock()
             m_leftBehind.append(name);
         } else if (name.key == JournalKeys::tried[1]) {
             m_thread.journals().rename(name, JournalKeys::givenUp);
-            m_thread.onFailure(u"An edit made Pixmallow crash twice and is not opened again."_s);
+            m_thread.onFailure(tr("An edit made Pixmallow crash twice and is not opened again."));
         }
     }
 }
@@ -89,7 +89,7 @@ void KeptEdits::reopen(const Reopen& open)
             m_thread.journals().rename(name, JournalKeys::afterTry(name.key));
             auto edit = m_thread.journals().read({name.owner, JournalKeys::afterTry(name.key)});
             if (!edit) {
-                m_thread.onFailure(u"Couldn’t reopen an edit. "_s + edit.error().message);
+                m_thread.onFailure(tr("Couldn’t reopen an edit. %1").arg(edit.error().message));
                 return;
             }
             auto opened = [this, owner = name.owner, open, edit = *std::move(edit)] {

@@ -5,8 +5,6 @@
 #include "editor/keeping/ReopenView.h"
 #include "widgets/Accessible.h"
 
-using namespace Qt::StringLiterals;
-
 ReopenOffer::ReopenOffer(const Surroundings& surroundings, KeptEdits& edits, KeptEdits::Reopen open)
     : m_surroundings(surroundings)
     , m_edits(edits)
@@ -28,7 +26,7 @@ void ReopenOffer::show()
 
 void ReopenOffer::make()
 {
-    m_panel = std::make_unique<FloatingPanel>(m_surroundings, u"Reopen edits"_s);
+    m_panel = std::make_unique<FloatingPanel>(m_surroundings, tr("Reopen edits"));
     auto* view = new ReopenView(m_surroundings.themes, m_edits.leftBehind());
     // Each answer closes the card: what was left behind is so no more.
     connect(view, &ReopenView::reopenWanted, this, [this] { m_edits.reopen(m_open); });

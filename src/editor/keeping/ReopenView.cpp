@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "editor/keeping/ReopenView.h"
 
+#include "base/Words.h"
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 #include "widgets/TextLabel.h"
 
 #include <QHBoxLayout>
@@ -18,14 +20,17 @@ constexpr int textLeft = Space::group + symbolSize + Space::inner;
 
 QString titleFor(qsizetype edits)
 {
-    return edits == 1 ? u"Reopen your edit?"_s : u"Reopen your %1 edits?"_s.arg(edits);
+    return edits == 1 ? Words::tr("Reopen your edit?")
+                      : Words::tr("Reopen your %n edits?", nullptr, Words::count(edits));
 }
 
 QString messageFor(qsizetype edits)
 {
     return edits == 1
-        ? u"Pixmallow ended while you were editing. Your picture and all its marks were kept."_s
-        : u"Pixmallow ended while you were editing. Your pictures and all their marks were kept."_s;
+        ? Words::tr(
+            "Pixmallow ended while you were editing. Your picture and all its marks were kept.")
+        : Words::tr(
+            "Pixmallow ended while you were editing. Your pictures and all their marks were kept.");
 }
 
 } // namespace
@@ -40,7 +45,8 @@ ReopenView::ReopenView(const Themes& themes, qsizetype edits, QWidget* parent)
         themes, TextStyle::Callout, TextLabel::Role::Secondary, TextLabel::Lines::Wrapped);
     message->setText(messageFor(edits));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(textLeft, Space::group, Space::group, Space::group);
+    column->setContentsMargins(
+        mirrored(QMargins(textLeft, Space::group, Space::group, Space::group), *this));
     column->setSpacing(Space::tiny / 2);
     column->addWidget(title);
     column->addWidget(message);
@@ -61,11 +67,11 @@ QLayout* ReopenView::buttons()
         row->addWidget(button);
         return button;
     };
-    connect(add(u"Not Now"_s, u"Ask again at the next start"_s, Look::Plain), &GlassButton::clicked,
-        this, &ReopenView::laterWanted);
-    connect(add(u"Discard"_s, u"Remove what was kept for good"_s, Look::Glass),
+    connect(add(tr("Not Now"), tr("Ask again at the next start"), Look::Plain),
+        &GlassButton::clicked, this, &ReopenView::laterWanted);
+    connect(add(tr("Discard"), tr("Remove what was kept for good"), Look::Glass),
         &GlassButton::clicked, this, &ReopenView::discardWanted);
-    auto* reopen = add(u"Reopen"_s, u"Go on where you were"_s, Look::Prominent);
+    auto* reopen = add(tr("Reopen"), tr("Go on where you were"), Look::Prominent);
     connect(reopen, &GlassButton::clicked, this, &ReopenView::reopenWanted);
     setFocusProxy(reopen);
     return row;
@@ -82,5 +88,6 @@ void ReopenView::paintEvent(QPaintEvent*)
     const int line = theme.lineHeight(TextStyle::Headline);
     QPainter painter(this);
     Icons::paint(painter, u"clock.arrow.circlepath"_s,
-        QRectF(Space::group, Space::group, symbolSize, line), symbolSize, theme.accentSymbol);
+        mirrored(QRectF(Space::group, Space::group, symbolSize, line), *this), symbolSize,
+        theme.accentSymbol);
 }

@@ -3,6 +3,7 @@
 #include "platform/freedesktop/Autostart.h"
 
 #include "base/AtomicFile.h"
+#include "base/Words.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,11 +54,12 @@ Result<void> Autostart::set(const QString& folder, const QString& program, bool 
     if (!on) {
         QFile file(path);
         if (file.exists() && !file.remove())
-            return Error::failed(u"Couldn't remove “%1”: %2."_s.arg(path, file.errorString()));
+            return Error::failed(
+                Words::tr("Couldn't remove “%1”: %2.").arg(path, file.errorString()));
         return {};
     }
     if (!QDir().mkpath(folder))
-        return Error::failed(u"Couldn't make the folder “%1”."_s.arg(folder));
+        return Error::failed(Words::tr("Couldn't make the folder “%1”.").arg(folder));
     const QString text = u"[Desktop Entry]\nType=Application\nName=Pixmallow\n"
                          "Comment=Takes screenshots\nIcon=pixmallow\n"
                          "Exec=%1 --background\n"_s.arg(quoted(program));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/DesktopWorkspace.h"
 
+#include "base/Words.h"
 #include "platform/freedesktop/Autostart.h"
 
 #include "platform/freedesktop/PortalRequest.h"
@@ -37,8 +38,8 @@ Result<void> openByAssociation(const QString& fileOrFolder)
 {
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(fileOrFolder)))
         return {};
-    return Error::failed(
-        u"There is no program to show “%1” with."_s.arg(QFileInfo(fileOrFolder).fileName()));
+    return Error::failed(Words::tr("There is no program to show “%1” with.")
+                             .arg(QFileInfo(fileOrFolder).fileName()));
 }
 
 /// Runs one of the desktop's helpers, which start the program proper and end. That program may live
@@ -79,7 +80,8 @@ Pending<void> askPortal(const PortalRequest::Call& call, const QString& helper,
 
 Error missing(const QString& path)
 {
-    return Error::failed(u"The file “%1” cannot be read."_s.arg(QFileInfo(path).fileName()));
+    return Error::failed(
+        Words::tr("The file “%1” cannot be read.").arg(QFileInfo(path).fileName()));
 }
 
 /// Where the desktops keep what programs may do.
@@ -137,7 +139,7 @@ Pending<void> DesktopWorkspace::mail(const QString& path)
         {u"attachment_fds"_s, QVariant::fromValue(QList {file})}};
     return askPortal({u"org.freedesktop.portal.Email"_s, u"ComposeEmail"_s, {QString()}, options},
         u"xdg-email"_s, {u"--attach"_s, path},
-        Error::failed(u"No mail program could be started."_s));
+        Error::failed(Words::tr("No mail program could be started.")));
 }
 
 Pending<void> DesktopWorkspace::openWith(const QString& path)
@@ -148,7 +150,7 @@ Pending<void> DesktopWorkspace::openWith(const QString& path)
     return askPortal({u"org.freedesktop.portal.OpenURI"_s, u"OpenFile"_s,
                          {QString(), QVariant::fromValue(file)}, {{u"ask"_s, true}}},
         u"xdg-open"_s, {path},
-        Error::failed(u"No program could be started to open the file with."_s));
+        Error::failed(Words::tr("No program could be started to open the file with.")));
 }
 
 Pending<void> DesktopWorkspace::openPermissionSettings()
@@ -159,7 +161,7 @@ Pending<void> DesktopWorkspace::openPermissionSettings()
     if (ours != settingsPrograms.end() && QProcess::startDetached(ours->program, ours->arguments))
         return Pending<void>::answered({});
     return Pending<void>::answered(
-        Error::failed(u"The settings of this desktop could not be opened."_s));
+        Error::failed(Words::tr("The settings of this desktop could not be opened.")));
 }
 
 bool DesktopWorkspace::startsAtLogin() const

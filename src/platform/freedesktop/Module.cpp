@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/Module.h"
 
+#include "base/Words.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLibrary>
@@ -26,12 +28,12 @@ Result<QFunctionPointer> moduleFunction(const QString& name, const char* functio
 {
     const QString path = modulePath(name);
     if (path.isEmpty())
-        return Error::failed(u"Pixmallow was installed without its part '%1'."_s.arg(name));
+        return Error::failed(Words::tr("Pixmallow was installed without its part '%1'.").arg(name));
     QLibrary library(path);
     if (!library.load())
         return Error::failed(
-            u"A part of Pixmallow cannot be loaded: %1."_s.arg(library.errorString()));
+            Words::tr("A part of Pixmallow cannot be loaded: %1.").arg(library.errorString()));
     if (const auto found = library.resolve(function))
         return found;
-    return Error::failed(u"The file '%1' is not of this version of Pixmallow."_s.arg(path));
+    return Error::failed(Words::tr("The file '%1' is not of this version of Pixmallow.").arg(path));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/ModuleFaceDetector.h"
 
+#include "base/Words.h"
 #include "platform/freedesktop/Module.h"
 #include "platform/freedesktop/faces/FaceModule.h"
 
@@ -11,7 +12,8 @@ Result<QList<QRectF>> ModuleFaceDetector::detect(const QImage& picture)
 {
     const std::scoped_lock busy(m_busy);
     if (const auto loaded = load(); !loaded)
-        return Error::failed(u"Faces cannot be looked for. "_s + loaded.error().message);
+        return Error::failed(
+            Words::tr("Faces cannot be looked for. %1").arg(loaded.error().message));
     return m_loaded->detect(picture);
 }
 
@@ -25,6 +27,7 @@ Result<void> ModuleFaceDetector::load()
     const auto make = reinterpret_cast<FaceModule::Make>(*function);
     m_loaded.reset(make(PIXMALLOW_VERSION));
     if (!m_loaded)
-        return Error::failed(u"Pixmallow was updated while it ran; quit it and start it again."_s);
+        return Error::failed(
+            Words::tr("Pixmallow was updated while it ran; quit it and start it again."));
     return {};
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/ModuleTextRecognizer.h"
 
+#include "base/Words.h"
 #include "platform/freedesktop/Module.h"
 #include "platform/freedesktop/text/TextModule.h"
 
@@ -16,7 +17,8 @@ Result<RecognisedText> ModuleTextRecognizer::recognise(
     const QImage& picture, double scale, const std::atomic<bool>& cancelled)
 {
     if (const auto loaded = load(); !loaded)
-        return Error::failed(u"Text recognition is not available. "_s + loaded.error().message);
+        return Error::failed(
+            Words::tr("Text recognition is not available. %1").arg(loaded.error().message));
     return m_loaded->recognise(picture, scale, cancelled);
 }
 
@@ -36,6 +38,7 @@ Result<void> ModuleTextRecognizer::load()
     const auto make = reinterpret_cast<TextModule::Make>(*function);
     m_loaded.reset(make(PIXMALLOW_VERSION, m_languages));
     if (!m_loaded)
-        return Error::failed(u"Pixmallow was updated while it ran; quit it and start it again."_s);
+        return Error::failed(
+            Words::tr("Pixmallow was updated while it ran; quit it and start it again."));
     return {};
 }

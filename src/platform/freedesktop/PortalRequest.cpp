@@ -49,7 +49,7 @@ void PortalRequest::start(const Call& call)
     m_portal.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     m_portal.addWatchedService(service);
     connect(&m_portal, &QDBusServiceWatcher::serviceUnregistered, this,
-        [this] { end(Error::failed(u"The desktop's portal has ended."_s)); });
+        [this] { end(Error::failed(tr("The desktop's portal has ended."))); });
 
     QVariantMap options = call.options;
     options[u"handle_token"_s] = token;
@@ -71,7 +71,7 @@ void PortalRequest::respond(uint response)
     else if (response == Cancelled)
         end(Error::cancelled());
     else
-        end(Error::failed(u"The desktop's portal could not do it."_s));
+        end(Error::failed(tr("The desktop's portal could not do it.")));
 }
 
 void PortalRequest::end(const Result<void>& result)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/SoundFile.h"
 
+#include "base/Words.h"
+
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -40,8 +42,8 @@ SF_VIRTUAL_IO readingThroughQFile()
 QString reasonOf(int error)
 {
     if (error == SF_ERR_UNRECOGNISED_FORMAT || error == SF_ERR_UNSUPPORTED_ENCODING)
-        return u"its format is not supported"_s;
-    return u"it is damaged"_s;
+        return Words::tr("its format is not supported");
+    return Words::tr("it is damaged");
 }
 
 } // namespace
@@ -51,15 +53,15 @@ Result<std::unique_ptr<SoundFile>> SoundFile::open(const QUrl& url)
     const QString path = url.scheme() == "qrc"_L1 ? u':' + url.path() : url.toLocalFile();
     const auto refuse = [&](const QString& reason) {
         return Error::failed(
-            u"Couldn't play the sound “%1”: %2."_s.arg(QFileInfo(path).fileName(), reason));
+            Words::tr("Couldn't play the sound “%1”: %2.").arg(QFileInfo(path).fileName(), reason));
     };
     if (!QFileInfo::exists(path))
-        return refuse(u"there is no such file"_s);
+        return refuse(Words::tr("there is no such file"));
     if (!QFileInfo(path).isFile())
-        return refuse(u"it is no file"_s);
+        return refuse(Words::tr("it is no file"));
     auto sound = std::unique_ptr<SoundFile>(new SoundFile(path));
     if (!sound->m_file.open(QIODevice::ReadOnly))
-        return refuse(u"it can't be read"_s);
+        return refuse(Words::tr("it can't be read"));
     auto io = readingThroughQFile();
     sound->m_sound.reset(sf_open_virtual(&io, SFM_READ, &sound->m_info, &sound->m_file));
     if (!sound->m_sound)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/SoundServer.h"
 
+#include "base/Words.h"
+
 #include <QDeadlineTimer>
 
 #include <pulse/pulseaudio.h>
@@ -44,7 +46,7 @@ public:
     QString problem() const
     {
         const int error = pa_context_errno(m_context.get());
-        return m_failed && error ? QString::fromUtf8(pa_strerror(error)) : u"No answer"_s;
+        return m_failed && error ? QString::fromUtf8(pa_strerror(error)) : Words::tr("No answer");
     }
 
 private:
@@ -86,5 +88,6 @@ Result<QString> findSoundServer()
     connection.run();
     if (!connection.name().isEmpty())
         return connection.name();
-    return Error::failed(u"No sound server can be reached: %1."_s.arg(connection.problem()));
+    return Error::failed(
+        Words::tr("No sound server can be reached: %1.").arg(connection.problem()));
 }

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/FrozenPixmap.h"
 
-#include <algorithm>
+#include "base/Words.h"
 
-using namespace Qt::StringLiterals;
+#include <algorithm>
 
 namespace {
 
@@ -33,8 +33,8 @@ Result<std::shared_ptr<FrozenPixmap>> FrozenPixmap::copy(std::shared_ptr<X11Conn
     const auto copyError = owned(xcb_request_check(xcb, copied));
     if (createError || copyError || xcb_connection_has_error(xcb))
         return connection->failure(createError
-                ? u"The display has no memory left for a picture of this size."_s
-                : u"The window is gone."_s);
+                ? Words::tr("The display has no memory left for a picture of this size.")
+                : Words::tr("The window is gone."));
     return frozen;
 }
 
@@ -127,7 +127,7 @@ Result<Rows> FrozenPixmap::rows(int y, int most)
     Strip& strip = m_strips[m_current];
     if (!receive(strip)) {
         strip.count = 0;
-        return m_connection->failure(u"The display did not hand over the picture."_s);
+        return m_connection->failure(Words::tr("The display did not hand over the picture."));
     }
     return Rows {strip.pixels + qsizetype(y - strip.y) * m_size.width(), m_size.width(),
         m_size.width(), std::min(most, strip.y + strip.count - y)};

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/SelectionExchange.h"
 
+#include "base/Words.h"
+
 #include <QDeadlineTimer>
 
 #include <poll.h>
@@ -47,7 +49,7 @@ Result<QByteArray> SelectionExchange::exchange(const QByteArray& bytes)
     const auto owner = owned(xcb_get_selection_owner_reply(
         m_giver->xcb(), xcb_get_selection_owner(m_giver->xcb(), selection), nullptr));
     if (!owner || owner->owner != m_owner)
-        return m_giver->failure(u"The X server does not let programs offer copies."_s);
+        return m_giver->failure(Words::tr("The X server does not let programs offer copies."));
 
     xcb_convert_selection(m_taker->xcb(), m_requestor, m_taker->atom(selectionName),
         m_taker->atom(targetName), m_taker->atom(propertyName), XCB_CURRENT_TIME);
@@ -57,10 +59,10 @@ Result<QByteArray> SelectionExchange::exchange(const QByteArray& bytes)
               give(reinterpret_cast<const xcb_selection_request_event_t&>(event), bytes);
           });
     if (!asked)
-        return m_giver->failure(u"A program that offers a copy is not asked for it."_s);
+        return m_giver->failure(Words::tr("A program that offers a copy is not asked for it."));
     const bool told = waitForEvent(*m_taker, XCB_SELECTION_NOTIFY, [](auto&) {});
     if (!told)
-        return m_taker->failure(u"What a program copies does not reach another one."_s);
+        return m_taker->failure(Words::tr("What a program copies does not reach another one."));
     return m_taker->text(xcb_get_property(m_taker->xcb(), 1, m_requestor,
         m_taker->atom(propertyName), XCB_GET_PROPERTY_TYPE_ANY, 0, mostWords));
 }

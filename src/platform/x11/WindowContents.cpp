@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/WindowContents.h"
 
+#include "base/Words.h"
+
 #include <xcb/composite.h>
 #include <xcb/damage.h>
 
@@ -10,8 +12,6 @@
 #include <poll.h>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -63,16 +63,17 @@ Result<WindowContents> WindowContents::of(
     const auto version = owned(
         xcb_composite_query_version_reply(xcb, xcb_composite_query_version(xcb, 0, 4), nullptr));
     if (!version)
-        return connection->failure(u"The display cannot capture a single window (no COMPOSITE)."_s);
+        return connection->failure(
+            Words::tr("The display cannot capture a single window (no COMPOSITE)."));
 
     WindowContents contents(connection, window.topLevel);
     if (contents.name())
         return contents;
     if (!contents.redirectAndAwaitRepaint(isCovered(*connection, windows, window)))
-        return connection->failure(
-            u"The window is covered and its program does not answer, so it cannot be captured."_s);
+        return connection->failure(Words::tr(
+            "The window is covered and its program does not answer, so it cannot be captured."));
     if (!contents.name())
-        return connection->failure(u"The window is gone."_s);
+        return connection->failure(Words::tr("The window is gone."));
     return contents;
 }
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11Connection.h"
 
-#include <cstring>
+#include "base/Words.h"
 
-using namespace Qt::StringLiterals;
+#include <cstring>
 
 namespace {
 
@@ -30,16 +30,16 @@ Result<std::shared_ptr<X11Connection>> X11Connection::open()
 {
     const QString display = qEnvironmentVariable("DISPLAY");
     if (display.isEmpty())
-        return Error::failed(u"There is no desktop to capture: DISPLAY is not set."_s);
+        return Error::failed(Words::tr("There is no desktop to capture: DISPLAY is not set."));
     int screen = 0;
     xcb_connection_t* xcb = xcb_connect(nullptr, &screen);
     std::shared_ptr<X11Connection> connection(new X11Connection(xcb, screen));
     if (xcb_connection_has_error(xcb))
-        return Error::failed(u"Cannot connect to the display %1."_s.arg(display));
+        return Error::failed(Words::tr("Cannot connect to the display %1.").arg(display));
     if (!hasNativePixels(xcb, connection->screen()))
-        return Error::failed(
-            u"The display %1 has a colour depth other than 24 bits, which is not supported."_s.arg(
-                display));
+        return Error::failed(Words::tr(
+            "The display %1 has a colour depth other than 24 bits, which is not supported.")
+                                 .arg(display));
     return connection;
 }
 
@@ -115,8 +115,9 @@ bool X11Connection::isComposited()
 
 Error X11Connection::failure(const QString& otherwise) const
 {
-    return Error::failed(
-        xcb_connection_has_error(m_xcb) ? u"The connection to the display was lost."_s : otherwise);
+    return Error::failed(xcb_connection_has_error(m_xcb)
+            ? Words::tr("The connection to the display was lost.")
+            : otherwise);
 }
 
 void X11Connection::discardEvents() const

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11Diagnosis.h"
 
+#include "base/Words.h"
 #include "platform/freedesktop/ModuleFaceDetector.h"
 #include "platform/freedesktop/ModuleTextLanguages.h"
 #include "platform/freedesktop/SoundServer.h"
 #include "platform/x11/SelectionExchange.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,8 +35,9 @@ Result<void> X11Diagnosis::exchangeCopies()
     const auto taken = SelectionExchange(*giver, *taker).exchange(given);
     if (!taken)
         return taken.error();
-    return *taken == given ? Result<void>()
-                           : Error::failed(u"What a program copies reaches another one changed."_s);
+    return *taken == given
+        ? Result<void>()
+        : Error::failed(Words::tr("What a program copies reaches another one changed."));
 }
 
 bool X11Diagnosis::keepsCopies()

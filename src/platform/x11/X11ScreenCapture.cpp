@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11ScreenCapture.h"
 
+#include "base/Words.h"
 #include "platform/DrawnShadow.h"
 #include "platform/x11/FrozenPixmap.h"
 #include "platform/x11/Recomposition.h"
@@ -12,8 +13,6 @@
 #include <xcb/shm.h>
 
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -117,7 +116,7 @@ Result<Frozen> X11ScreenCapture::readArea(
 {
     const QRect area = native & QRect({}, m_connection->rootSize());
     if (area.isEmpty())
-        return m_connection->failure(u"The area lies outside all screens."_s);
+        return m_connection->failure(Words::tr("The area lies outside all screens."));
 
     const std::vector<xcb_window_t> ids(excluded.begin(), excluded.end());
     QSet<xcb_window_t> topLevels;
@@ -147,10 +146,10 @@ Result<Frozen> X11ScreenCapture::readWindow(WindowId id, WindowShadow shadow, Po
 {
     const auto window = m_windows.locate(std::array {xcb_window_t(id)}).front();
     if (!window.topLevel)
-        return m_connection->failure(u"There is no window %1."_s.arg(id));
+        return m_connection->failure(Words::tr("There is no window %1.").arg(id));
     if (!window.viewable)
         return m_connection->failure(
-            u"The window is not on screen: it is minimised or on another desktop."_s);
+            Words::tr("The window is not on screen: it is minimised or on another desktop."));
     const auto contents = WindowContents::of(m_connection, m_windows, window);
     if (!contents)
         return contents.error();
@@ -158,7 +157,7 @@ Result<Frozen> X11ScreenCapture::readWindow(WindowId id, WindowShadow shadow, Po
     const bool keepsOwnShadow = shadow == WindowShadow::Kept && !window.ownShadow.isNull();
     const QRect rect = (keepsOwnShadow ? window.clientRect : window.frame()) & window.topLevelRect;
     if (rect.isEmpty())
-        return Error::failed(u"The window shows nothing that could be captured."_s);
+        return Error::failed(Words::tr("The window shows nothing that could be captured."));
     auto frozen = FrozenPixmap::copy(m_connection, contents->pixmap(), window.topLevelDepth,
         rect.translated(-window.topLevelRect.topLeft()), rect.topLeft());
     if (!frozen)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11SurfaceTraits.h"
 
+#include "base/Words.h"
 #include "platform/x11/X11Connection.h"
 
 #include <QGuiApplication>
@@ -60,7 +61,7 @@ Result<std::unique_ptr<SurfaceTraits>> X11SurfaceTraits::make()
 {
     const auto* const native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (!native)
-        return Error::failed(u"The windows of this program are not on an X server."_s);
+        return Error::failed(Words::tr("The windows of this program are not on an X server."));
     return std::unique_ptr<SurfaceTraits>(new X11SurfaceTraits(native->connection()));
 }
 

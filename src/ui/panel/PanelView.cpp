@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panel/PanelView.h"
 
+#include "base/Words.h"
 #include "ui/panel/PetRow.h"
 #include "ui/panel/RecentStrip.h"
 #include "widgets/Accessible.h"
@@ -46,27 +47,27 @@ PanelView::PanelView(const Means& means)
 void PanelView::addCaptures()
 {
     m_allow = add(
-        u"lock"_s, u"Allow capture…"_s, [this] { m_means.state.askForPermission(); },
+        u"lock"_s, tr("Allow capture…"), [this] { m_means.state.askForPermission(); },
         PanelRow::Look::Prominent);
     for (const auto& info : captureKinds)
         if (m_means.state.isAvailable(info.kind))
             m_captures << std::pair(info.kind,
-                add(info.symbol, info.title,
+                add(info.symbol, Words::tr(info.title),
                     [this, kind = info.kind] { m_means.state.capture(kind); }));
 }
 
 void PanelView::addPlaces()
 {
     AppState& state = m_means.state;
-    m_editLast = add(u"pencil"_s, u"Edit last capture"_s, [&state] { state.editLast(); });
-    m_history = add(u"clock.arrow.circlepath"_s, u"History"_s, [&state] { state.showHistory(); });
-    m_gallery = add(u"trophy"_s, u"Achievements"_s, [&state] { state.showGallery(); });
+    m_editLast = add(u"pencil"_s, tr("Edit last capture"), [&state] { state.editLast(); });
+    m_history = add(u"clock.arrow.circlepath"_s, tr("History"), [&state] { state.showHistory(); });
+    m_gallery = add(u"trophy"_s, tr("Achievements"), [&state] { state.showGallery(); });
     auto* settings
-        = add(u"gearshape"_s, u"Settings…"_s, [&state] { Q_EMIT state.settingsRequested(); });
+        = add(u"gearshape"_s, tr("Settings…"), [&state] { Q_EMIT state.settingsRequested(); });
     addLine();
     m_update = add(
         u"arrow.down.circle"_s, {}, [this] { m_means.showUpdate(); }, PanelRow::Look::Prominent);
-    auto* quit = add(u"power"_s, u"Quit Pixmallow"_s, [] { QCoreApplication::quit(); });
+    auto* quit = add(u"power"_s, tr("Quit Pixmallow"), [] { QCoreApplication::quit(); });
     for (PanelRow* row : {m_editLast, m_history, m_gallery, settings, m_update, quit})
         row->setHeight(placeHeight);
 }
@@ -114,7 +115,7 @@ void PanelView::refreshCaptures()
     const bool isPermitted = m_means.state.isPermitted();
     m_allow->setVisible(!isPermitted);
     for (const auto& [kind, row] : m_captures) {
-        QString title = infoOf(kind).title;
+        QString title = Words::tr(infoOf(kind).title);
         if (title.contains(u"%1"_s))
             title = title.arg(m_means.prefs.get(Prefs::keys.delaySeconds));
         row->setTitle(title);
@@ -138,11 +139,13 @@ void PanelView::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Down:
-    case Qt::Key_Right:
         return step(1);
     case Qt::Key_Up:
-    case Qt::Key_Left:
         return step(-1);
+    case Qt::Key_Right:
+        return step(isRightToLeft() ? -1 : 1);
+    case Qt::Key_Left:
+        return step(isRightToLeft() ? 1 : -1);
     default:
         QWidget::keyPressEvent(event);
     }
@@ -167,7 +170,7 @@ void PanelView::step(int by)
     // As they are seen; children are listed as they were made.
     std::ranges::sort(all, {}, [this](const QAbstractButton* button) {
         const QPoint place = button->mapTo(this, QPoint());
-        return std::pair(place.y(), place.x());
+        return std::pair(place.y(), isRightToLeft() ? -place.x() : place.x());
     });
     const auto now = all.indexOf(qobject_cast<QAbstractButton*>(focusWidget()));
     const auto next

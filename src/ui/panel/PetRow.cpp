@@ -3,12 +3,11 @@
 #include "ui/panel/PetRow.h"
 
 #include "fun/Pet.h"
+#include "widgets/Mirrored.h"
 
 #include <QPainter>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,7 +36,7 @@ void PetRow::greet()
 void PetRow::describe()
 {
     setAccessibleName(
-        u"%1, level %2: %3"_s.arg(m_fun.stats().petName).arg(m_fun.level()).arg(m_mood));
+        tr("%1, level %2: %3").arg(m_fun.stats().petName).arg(m_fun.level()).arg(m_mood));
     setToolTip(m_fun.nextStage());
     update();
 }
@@ -60,8 +59,8 @@ void PetRow::paintEvent(QPaintEvent*)
     painter.setFont(emoji);
     painter.setPen(theme.text);
     constexpr double emojiWidth = 44; // Wider than high in the toolkit's font.
-    painter.drawText(
-        QRectF(box.topLeft(), QSizeF(emojiWidth, box.height())), Qt::AlignCenter, m_fun.petEmoji());
+    painter.drawText(mirrored(QRectF(box.topLeft(), QSizeF(emojiWidth, box.height())), *this),
+        Qt::AlignCenter, m_fun.petEmoji());
     box.setLeft(box.left() + emojiWidth + Space::inner);
 
     const int first = theme.lineHeight(TextStyle::Headline);
@@ -71,17 +70,17 @@ void PetRow::paintEvent(QPaintEvent*)
     paintLevel(painter, nameLine);
     painter.setFont(theme.font(TextStyle::Headline));
     painter.setPen(theme.text);
-    painter.drawText(nameLine, Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(mirrored(nameLine, *this), Qt::AlignLeft | Qt::AlignVCenter,
         painter.fontMetrics().elidedText(
             m_fun.stats().petName, Qt::ElideRight, int(nameLine.width()) - barWidth - 56));
     painter.setFont(theme.font(TextStyle::Callout));
     painter.setPen(theme.secondary);
-    painter.drawText(QRectF(box.left(), top + first, box.width(), second),
+    painter.drawText(mirrored(QRectF(box.left(), top + first, box.width(), second), *this),
         Qt::AlignLeft | Qt::AlignVCenter,
         painter.fontMetrics().elidedText(m_mood, Qt::ElideRight, int(box.width())));
 }
 
-/// "Lv 3" and the way to the next level, at the right of a line.
+/// "Lv 3" and the way to the next level, at the end of a line.
 void PetRow::paintLevel(QPainter& painter, QRectF line) const
 {
     const Theme& theme = m_themes.current();
@@ -89,12 +88,12 @@ void PetRow::paintLevel(QPainter& painter, QRectF line) const
     QRectF bar(line.right() - barWidth, line.center().y() - barHeight / 2.0, barWidth, barHeight);
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.fillPressed);
-    painter.drawRoundedRect(bar, barHeight / 2.0, barHeight / 2.0);
+    painter.drawRoundedRect(mirrored(bar, *this), barHeight / 2.0, barHeight / 2.0);
     bar.setWidth(std::max<double>(barHeight, bar.width() * Pet::progress(m_fun.stats().xp)));
     painter.setBrush(theme.accentSymbol);
-    painter.drawRoundedRect(bar, barHeight / 2.0, barHeight / 2.0);
+    painter.drawRoundedRect(mirrored(bar, *this), barHeight / 2.0, barHeight / 2.0);
     painter.setFont(theme.font(TextStyle::Caption));
     painter.setPen(theme.secondary);
-    painter.drawText(line.adjusted(0, 0, -barWidth - Space::related, 0),
-        Qt::AlignRight | Qt::AlignVCenter, u"Lv %1"_s.arg(level));
+    painter.drawText(mirrored(line.adjusted(0, 0, -barWidth - Space::related, 0), *this),
+        Qt::AlignRight | Qt::AlignVCenter, tr("Lv %1").arg(level));
 }

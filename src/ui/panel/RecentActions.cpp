@@ -48,11 +48,11 @@ void RecentActions::fill(QMenu& menu, const HistoryItem& item, QWidget* asking)
         if (isOffered)
             menu.addAction(title, this, [this, item, act] { with(item, act); });
     };
-    add(u"Edit"_s, bool(m_actions.edit), m_actions.edit);
-    add(u"Copy"_s, bool(m_actions.copy),
+    add(tr("Edit"), bool(m_actions.edit), m_actions.edit);
+    add(tr("Copy"), bool(m_actions.copy),
         [this](const FinishedCapture& capture) { std::ignore = m_actions.copy(capture); });
-    add(u"Pin"_s, bool(m_actions.pin), m_actions.pin);
-    add(u"Save As…"_s, bool(m_actions.saveAs), [this, asking](const FinishedCapture& capture) {
+    add(tr("Pin"), bool(m_actions.pin), m_actions.pin);
+    add(tr("Save As…"), bool(m_actions.saveAs), [this, asking](const FinishedCapture& capture) {
         std::ignore = m_actions.saveAs(capture, asking);
     });
     add(m_revealTitle, m_actions.reveal && !item.cached, m_actions.reveal);

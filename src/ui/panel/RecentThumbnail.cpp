@@ -51,16 +51,17 @@ RecentThumbnail::RecentThumbnail(const Themes& themes, HistoryItem item, RecentA
     setFixedSize(extent);
     setFocusPolicy(Qt::StrongFocus);
     const QString when = QLocale().toString(m_item.time().toLocalTime(), QLocale::ShortFormat);
-    setAccessibleName(m_item.app.isEmpty() ? when : u"%1, %2"_s.arg(m_item.app, when));
+    const QString app = m_item.appName();
+    setAccessibleName(app.isEmpty() ? when : u"%1, %2"_s.arg(app, when));
     setToolTip(accessibleName());
     auto* row = new QHBoxLayout(m_bar);
     row->setContentsMargins({});
     row->setSpacing(0);
     if (m_actions.canEdit())
-        addAction(u"pencil"_s, u"Edit"_s, [this] { m_actions.edit(m_item); });
-    addAction(u"doc.on.doc"_s, u"Copy"_s, [this] { m_actions.copy(m_item); });
+        addAction(u"pencil"_s, tr("Edit"), [this] { m_actions.edit(m_item); });
+    addAction(u"doc.on.doc"_s, tr("Copy"), [this] { m_actions.copy(m_item); });
     if (!m_actions.canEdit())
-        addAction(u"pin"_s, u"Pin"_s, [this] { m_actions.pin(m_item); });
+        addAction(u"pin"_s, tr("Pin"), [this] { m_actions.pin(m_item); });
     m_bar->setGeometry(rect().adjusted(2, 10, -2, -10));
     m_bar->hide();
     connect(this, &QAbstractButton::clicked, this, [this] {

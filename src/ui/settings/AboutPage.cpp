@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
+#include "base/Words.h"
 #include "widgets/TextLabel.h"
 
 #include <QIcon>
@@ -35,15 +36,15 @@ void SettingsPages::fillAbout(SettingsPage& page, const SettingsMeans& means)
     column->addWidget(icon);
     column->addWidget(line(means.themes, TextStyle::Title1, u"Pixmallow"_s, TextLabel::Role::Text));
     column->addWidget(line(means.themes, TextStyle::Body,
-        u"Version %1"_s.arg(means.updater.currentVersion()), TextLabel::Role::Secondary));
+        Words::tr("Version %1").arg(means.updater.currentVersion()), TextLabel::Role::Secondary));
     page.addBelow(about);
 
     RowGroup& tile = page.addGroup();
-    tile.addRow({u"Licence"_s, u"Free software under the MIT licence."_s}, nullptr);
-    tile.addRow({u"Your captures stay with you"_s,
-                    u"Pixmallow sends neither them nor what you do with it anywhere."_s},
+    tile.addRow({Words::tr("Licence"), Words::tr("Free software under the MIT licence.")}, nullptr);
+    tile.addRow({Words::tr("Your captures stay with you"),
+                    Words::tr("Pixmallow sends neither them nor what you do with it anywhere.")},
         nullptr);
-    tile.addRow(
-        {u"With thanks to"_s, u"Phosphor Icons, Fluent Emoji, Anton, Qt, Tesseract and ISA-L."_s},
+    tile.addRow({Words::tr("With thanks to"),
+                    Words::tr("Phosphor Icons, Fluent Emoji, Anton, Qt, Tesseract and ISA-L.")},
         nullptr);
 }

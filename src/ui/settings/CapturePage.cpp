@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
+#include "base/Words.h"
+
 #include <QComboBox>
 #include <QPushButton>
 
@@ -15,27 +17,29 @@ constexpr const PrefKeys& keys = Prefs::keys;
 
 void SettingsPages::fillCapture(SettingsPage& page, const SettingsMeans& means)
 {
-    page.addGroup(u"Selecting a region"_s);
+    page.addGroup(Words::tr("Selecting a region"));
     page.addSwitch(keys.showMagnifier,
-        {u"Magnifier"_s, u"With the position and the colour under the pointer."_s});
-    page.addSwitch(keys.showCrosshair, {u"Crosshair across the screen"_s});
+        {Words::tr("Magnifier"), Words::tr("With the position and the colour under the pointer.")});
+    page.addSwitch(keys.showCrosshair, {Words::tr("Crosshair across the screen")});
 
-    page.addGroup(u"In the picture"_s);
-    page.addSwitch(keys.includeCursor, {u"Mouse pointer"_s});
-    page.addSwitch(keys.windowShadow, {u"Shadow around windows"_s});
+    page.addGroup(Words::tr("In the picture"));
+    page.addSwitch(keys.includeCursor, {Words::tr("Mouse pointer")});
+    page.addSwitch(keys.windowShadow, {Words::tr("Shadow around windows")});
 
-    page.addGroup(u"Delayed capture"_s);
-    page.addChoice(
-        keys.delaySeconds, {u"Count down from"_s}, seconds({2, 3, 5, 10, 15, 30}), secondsTitle);
+    page.addGroup(Words::tr("Delayed capture"));
+    page.addChoice(keys.delaySeconds, {Words::tr("Count down from")},
+        seconds({2, 3, 5, 10, 15, 30}), secondsTitle);
     page.addSwitch(keys.captureOpenMenus,
-        {u"Shortcuts work while a menu is open"_s,
-            u"For that Pixmallow listens to every key you press. It keeps none of them."_s});
+        {Words::tr("Shortcuts work while a menu is open"),
+            Words::tr(
+                "For that Pixmallow listens to every key you press. It keeps none of them.")});
 
-    RowGroup& animation = page.addGroup(u"Animation"_s);
+    RowGroup& animation = page.addGroup(Words::tr("Animation"));
     auto* kind = page.choice(keys.captureAnimation,
-        {{u"none"_s, u"None"_s}, {u"flash"_s, u"Flash"_s}, {u"confetti"_s, u"Confetti"_s},
-            {u"sparkles"_s, u"Sparkles"_s}, {u"pixels"_s, u"Pixels"_s}, {u"fly"_s, u"Fly away"_s}},
-        [](const QVariant&) { return u"Flash"_s; });
-    animation.addRow(
-        {u"When a capture is taken"_s}, beside({kind, button(u"Try"_s, means.tryAnimation)}));
+        {{u"none"_s, Words::tr("None")}, {u"flash"_s, Words::tr("Flash")},
+            {u"confetti"_s, Words::tr("Confetti")}, {u"sparkles"_s, Words::tr("Sparkles")},
+            {u"pixels"_s, Words::tr("Pixels")}, {u"fly"_s, Words::tr("Fly away")}},
+        [](const QVariant&) { return Words::tr("Flash"); });
+    animation.addRow({Words::tr("When a capture is taken")},
+        beside({kind, button(Words::tr("Try"), means.tryAnimation)}));
 }

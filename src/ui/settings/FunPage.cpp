@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
+#include "base/Words.h"
 #include "ui/settings/SkinPicker.h"
 #include "ui/settings/StatsView.h"
 
@@ -33,11 +34,12 @@ QLineEdit* petName(Fun& fun)
 
 void askForReset(QWidget* asking, Fun& fun)
 {
-    auto* question = new QMessageBox(QMessageBox::NoIcon, u"Reset"_s,
-        u"Reset all achievements, streaks and your pet's level?"_s, QMessageBox::Cancel, asking);
+    auto* question = new QMessageBox(QMessageBox::NoIcon, Words::tr("Reset"),
+        Words::tr("Reset all achievements, streaks and your pet's level?"), QMessageBox::Cancel,
+        asking);
     question->setAttribute(Qt::WA_DeleteOnClose);
     question->setDefaultButton(QMessageBox::Cancel);
-    auto* reset = question->addButton(u"Reset"_s, QMessageBox::DestructiveRole);
+    auto* reset = question->addButton(Words::tr("Reset"), QMessageBox::DestructiveRole);
     QObject::connect(reset, &QAbstractButton::clicked, &fun, &Fun::reset);
     question->open();
 }
@@ -46,18 +48,19 @@ void askForReset(QWidget* asking, Fun& fun)
 
 void SettingsPages::fillFun(SettingsPage& page, const SettingsMeans& means)
 {
-    RowGroup& skins = page.addGroup(u"Skin"_s);
+    RowGroup& skins = page.addGroup(Words::tr("Skin"));
     skins.addContent(new SkinPicker(means.themes, means.prefs, means.skins, means.sounds));
-    skins.setFooter(u"A skin sets the colours, preview effect, capture sound and animation in one "
-                    "go. Pick macOS to go back to your system look."_s);
+    skins.setFooter(
+        Words::tr("A skin sets the colours, preview effect, capture sound and animation in one "
+                  "go. Pick macOS to go back to your system look."));
 
-    RowGroup& pet = page.addGroup(u"Pet"_s);
-    pet.addRow({u"Name"_s}, petName(means.fun));
-    page.addSwitch(keys.trayPet, {u"Show the pet in the tray"_s});
-    page.addSwitch(keys.achievementToasts, {u"Tell about achievements and new levels"_s});
+    RowGroup& pet = page.addGroup(Words::tr("Pet"));
+    pet.addRow({Words::tr("Name")}, petName(means.fun));
+    page.addSwitch(keys.trayPet, {Words::tr("Show the pet in the tray")});
+    page.addSwitch(keys.achievementToasts, {Words::tr("Tell about achievements and new levels")});
 
-    RowGroup& stats = page.addGroup(u"Statistics"_s);
+    RowGroup& stats = page.addGroup(Words::tr("Statistics"));
     stats.addContent(new StatsView(means.themes, means.fun));
-    stats.addRow({u"Start over"_s, u"Your pet keeps its name."_s},
-        button(u"Reset…"_s, [&page, &means] { askForReset(&page, means.fun); }));
+    stats.addRow({Words::tr("Start over"), Words::tr("Your pet keeps its name.")},
+        button(Words::tr("Reset…"), [&page, &means] { askForReset(&page, means.fun); }));
 }

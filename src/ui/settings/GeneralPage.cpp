@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
+#include "base/Words.h"
 #include "ui/settings/SaveFolderControl.h"
 #include "widgets/Switch.h"
 
@@ -17,7 +18,7 @@ constexpr const PrefKeys& keys = Prefs::keys;
 void addStartAtLogin(SettingsPage& page, RowGroup& tile, const SettingsMeans& means)
 {
     auto* control = new Switch(page.themes());
-    auto* row = tile.addRow({u"Start at login"_s}, control);
+    auto* row = tile.addRow({Words::tr("Start at login")}, control);
     control->setChecked(means.workspace.startsAtLogin());
     QObject::connect(control, &QAbstractButton::clicked, row, [control, row, &means](bool isOn) {
         const auto done = means.workspace.setStartsAtLogin(isOn);
@@ -28,38 +29,39 @@ void addStartAtLogin(SettingsPage& page, RowGroup& tile, const SettingsMeans& me
 
 QString entries(const QVariant& number)
 {
-    return u"%1 captures"_s.arg(number.toInt());
+    return Words::tr("%n captures", nullptr, number.toInt());
 }
 
 } // namespace
 
 void SettingsPages::fillGeneral(SettingsPage& page, const SettingsMeans& means)
 {
-    RowGroup& saving = page.addGroup(u"Saving"_s);
-    page.addSwitch(keys.autoSave, {u"Save every capture"_s});
-    saving.addRow({u"Folder"_s}, new SaveFolderControl(page.themes(), page.prefs()));
-    page.addChoice(keys.imageFormat, {u"Format"_s}, {{u"png"_s, u"PNG"_s}, {u"jpg"_s, u"JPEG"_s}},
-        [](const QVariant&) { return u"PNG"_s; });
-    page.addSwitch(keys.copyToClipboard, {u"Copy every capture"_s});
+    RowGroup& saving = page.addGroup(Words::tr("Saving"));
+    page.addSwitch(keys.autoSave, {Words::tr("Save every capture")});
+    saving.addRow({Words::tr("Folder")}, new SaveFolderControl(page.themes(), page.prefs()));
+    page.addChoice(keys.imageFormat, {Words::tr("Format")},
+        {{u"png"_s, u"PNG"_s}, {u"jpg"_s, u"JPEG"_s}}, [](const QVariant&) { return u"PNG"_s; });
+    page.addSwitch(keys.copyToClipboard, {Words::tr("Copy every capture")});
 
     page.addGroup();
-    page.addChoice(keys.afterCapture, {u"After a capture"_s},
-        {{u"preview"_s, u"Show a preview"_s}, {u"editor"_s, u"Open the editor"_s},
-            {u"none"_s, u"Do nothing"_s}});
+    page.addChoice(keys.afterCapture, {Words::tr("After a capture")},
+        {{u"preview"_s, Words::tr("Show a preview")}, {u"editor"_s, Words::tr("Open the editor")},
+            {u"none"_s, Words::tr("Do nothing")}});
 
-    page.addGroup(u"History"_s);
-    page.addSwitch(keys.historyEnabled, {u"Keep a history of captures"_s});
+    page.addGroup(Words::tr("History"));
+    page.addSwitch(keys.historyEnabled, {Words::tr("Keep a history of captures")});
     QList<SettingsPage::Choice> sizes;
     for (const int size : {50, 200, 500, 1000, 5000})
         sizes << SettingsPage::Choice {size, entries(size)};
     page.addChoice(keys.historyMax,
-        {u"At most"_s, u"The oldest go first. Your saved files stay."_s}, sizes, entries);
+        {Words::tr("At most"), Words::tr("The oldest go first. Your saved files stay.")}, sizes,
+        entries);
     page.addSwitch(keys.keepEditsEditable,
-        {u"Keep edits editable"_s,
-            u"Drawings can be changed later. What they cover stays on disk."_s});
+        {Words::tr("Keep edits editable"),
+            Words::tr("Drawings can be changed later. What they cover stays on disk.")});
     page.addSwitch(keys.findByText,
-        {u"Find captures by their text"_s,
-            u"Reads the text in captures, on this computer only."_s});
+        {Words::tr("Find captures by their text"),
+            Words::tr("Reads the text in captures, on this computer only.")});
 
     addStartAtLogin(page, page.addGroup(), means);
 }

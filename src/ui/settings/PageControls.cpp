@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
+#include "base/Words.h"
+
 #include <QHBoxLayout>
 #include <QPushButton>
 
@@ -9,7 +11,8 @@ using namespace Qt::StringLiterals;
 
 QString SettingsPages::secondsTitle(const QVariant& number)
 {
-    return number.toInt() == 1 ? u"1 second"_s : u"%1 seconds"_s.arg(number.toInt());
+    const int seconds = number.toInt();
+    return seconds == 1 ? Words::tr("1 second") : Words::tr("%n seconds", nullptr, seconds);
 }
 
 QList<SettingsPage::Choice> SettingsPages::seconds(const QList<int>& numbers, const QString& zero)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
+#include "base/Words.h"
 #include "preview/EffectPalette.h"
 #include "preview/PreviewThumbnail.h"
 #include "ui/settings/SampleCapture.h"
@@ -42,33 +43,29 @@ void addLivePreview(SettingsPage& page, RowGroup& tile)
     QObject::connect(&page.themes(), &Themes::changed, picture, show);
 }
 
-QString capitalised(QStringView name)
-{
-    return name.first(1).toString().toUpper() + name.sliced(1).toString();
-}
-
 } // namespace
 
 void SettingsPages::fillPreview(SettingsPage& page, const SettingsMeans&)
 {
     page.addGroup();
     page.addChoice(keys.previewSeconds,
-        {u"Closes after"_s, u"It stays while the pointer is on it."_s},
-        seconds({3, 6, 10, 15, 30, 0}, u"Never"_s), secondsTitle);
+        {Words::tr("Closes after"), Words::tr("It stays while the pointer is on it.")},
+        seconds({3, 6, 10, 15, 30, 0}, Words::tr("Never")), secondsTitle);
 
-    RowGroup& border = page.addGroup(u"Border"_s);
-    page.addChoice(keys.previewEffect, {u"Effect"_s},
-        {{u"none"_s, u"None"_s}, {u"comet"_s, u"Comet"_s}, {u"pulse"_s, u"Pulse"_s},
-            {u"spin"_s, u"Spin"_s}},
-        [](const QVariant&) { return u"None"_s; });
+    RowGroup& border = page.addGroup(Words::tr("Border"));
+    page.addChoice(keys.previewEffect, {Words::tr("Effect")},
+        {{u"none"_s, Words::tr("None")}, {u"comet"_s, Words::tr("Comet")},
+            {u"pulse"_s, Words::tr("Pulse")}, {u"spin"_s, Words::tr("Spin")}},
+        [](const QVariant&) { return Words::tr("None"); });
     QList<SettingsPage::Choice> colours;
-    for (const QStringView name : EffectPalette::names)
-        colours << SettingsPage::Choice {name.toString(), capitalised(name)};
-    page.addChoice(
-        keys.effectColors, {u"Colours"_s}, colours, [](const QVariant&) { return u"Accent"_s; });
+    for (std::size_t i = 0; i < EffectPalette::names.size(); ++i)
+        colours << SettingsPage::Choice {
+            EffectPalette::names.at(i).toString(), Words::tr(EffectPalette::titles.at(i))};
+    page.addChoice(keys.effectColors, {Words::tr("Colours")}, colours,
+        [](const QVariant&) { return Words::tr("Accent"); });
     addLivePreview(page, border);
 
-    page.addGroup(u"Pet"_s);
-    page.addSwitch(
-        keys.petReactions, {u"The pet reacts"_s, u"A line and its points on each new capture."_s});
+    page.addGroup(Words::tr("Pet"));
+    page.addSwitch(keys.petReactions,
+        {Words::tr("The pet reacts"), Words::tr("A line and its points on each new capture.")});
 }

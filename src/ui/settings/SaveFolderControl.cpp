@@ -32,7 +32,7 @@ SaveFolderControl::SaveFolderControl(const Themes& themes, Prefs& prefs)
     m_name->setFixedWidth(nameWidth);
     m_name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     row->addWidget(m_name);
-    auto* button = new QPushButton(u"Choose…"_s);
+    auto* button = new QPushButton(tr("Choose…"));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, &SaveFolderControl::choose);
     row->addWidget(button);
@@ -52,7 +52,7 @@ void SaveFolderControl::show(const QString& folder)
 
 void SaveFolderControl::choose()
 {
-    auto* dialog = new QFileDialog(this, u"Save captures in"_s, m_prefs.saveFolder());
+    auto* dialog = new QFileDialog(this, tr("Save captures in"), m_prefs.saveFolder());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);

@@ -13,8 +13,6 @@
 
 #include <array>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QSize usualPage(540, 520); // Points, beside the list.
@@ -22,21 +20,28 @@ constexpr QSize smallest(620, 400);
 
 struct PageInfo {
     QLatin1String symbol;
-    QLatin1String name;
+    const char* name;
     void (*fill)(SettingsPage&, const SettingsMeans&);
 };
 
 constexpr std::array<PageInfo, 9> pages {{
-    {QLatin1String("gearshape"), QLatin1String("General"), SettingsPages::fillGeneral},
-    {QLatin1String("camera"), QLatin1String("Capture"), SettingsPages::fillCapture},
-    {QLatin1String("photo.on.rectangle.angled"), QLatin1String("Preview"),
+    {QLatin1String("gearshape"), QT_TRANSLATE_NOOP("SettingsWindow", "General"),
+        SettingsPages::fillGeneral},
+    {QLatin1String("camera"), QT_TRANSLATE_NOOP("SettingsWindow", "Capture"),
+        SettingsPages::fillCapture},
+    {QLatin1String("photo.on.rectangle.angled"), QT_TRANSLATE_NOOP("SettingsWindow", "Preview"),
         SettingsPages::fillPreview},
-    {QLatin1String("speaker.wave.2"), QLatin1String("Sound"), SettingsPages::fillSound},
-    {QLatin1String("keyboard"), QLatin1String("Shortcuts"), SettingsPages::fillShortcuts},
-    {QLatin1String("sparkles"), QLatin1String("Fun"), SettingsPages::fillFun},
-    {QLatin1String("arrow.down.circle"), QLatin1String("Updates"), SettingsPages::fillUpdates},
-    {QLatin1String("checkmark.circle"), QLatin1String("Diagnosis"), SettingsPages::fillDiagnosis},
-    {QLatin1String("info.circle"), QLatin1String("About"), SettingsPages::fillAbout},
+    {QLatin1String("speaker.wave.2"), QT_TRANSLATE_NOOP("SettingsWindow", "Sound"),
+        SettingsPages::fillSound},
+    {QLatin1String("keyboard"), QT_TRANSLATE_NOOP("SettingsWindow", "Shortcuts"),
+        SettingsPages::fillShortcuts},
+    {QLatin1String("sparkles"), QT_TRANSLATE_NOOP("SettingsWindow", "Fun"), SettingsPages::fillFun},
+    {QLatin1String("arrow.down.circle"), QT_TRANSLATE_NOOP("SettingsWindow", "Updates"),
+        SettingsPages::fillUpdates},
+    {QLatin1String("checkmark.circle"), QT_TRANSLATE_NOOP("SettingsWindow", "Diagnosis"),
+        SettingsPages::fillDiagnosis},
+    {QLatin1String("info.circle"), QT_TRANSLATE_NOOP("SettingsWindow", "About"),
+        SettingsPages::fillAbout},
 }};
 
 } // namespace
@@ -47,7 +52,7 @@ SettingsWindow::SettingsWindow(SettingsMeans means)
     , m_pages(new QStackedWidget)
     , m_made(pages.size(), nullptr)
 {
-    setWindowTitle(u"Settings"_s);
+    setWindowTitle(tr("Settings"));
     const Theme& theme = m_means.themes.current();
     resize(m_sidebar->width() + enlarged(usualPage.width(), theme),
         enlarged(usualPage.height(), theme));
@@ -57,9 +62,9 @@ SettingsWindow::SettingsWindow(SettingsMeans means)
     row->setSpacing(0);
     row->addWidget(m_sidebar);
     row->addWidget(m_pages, 1);
-    m_sidebar->setAccessibleName(u"Pages"_s);
+    m_sidebar->setAccessibleName(tr("Pages"));
     for (const PageInfo& page : pages)
-        m_sidebar->addPage(page.symbol, page.name);
+        m_sidebar->addPage(page.symbol, tr(page.name));
     connect(m_sidebar, &QListWidget::currentRowChanged, this, &SettingsWindow::showPage);
     m_sidebar->setCurrentRow(0);
     m_sidebar->setFocus();
@@ -69,7 +74,7 @@ QStringList SettingsWindow::pageNames()
 {
     QStringList names;
     for (const PageInfo& page : pages)
-        names << page.name;
+        names << QString::fromLatin1(page.name);
     return names;
 }
 
@@ -96,8 +101,9 @@ void SettingsWindow::showPage(int index)
 {
     const PageInfo& info = pages.at(std::size_t(index));
     if (!m_made[index]) {
-        auto* page = new SettingsPage(m_means.themes, m_means.prefs, info.name);
-        page->setAccessibleName(info.name);
+        const QString name = tr(info.name);
+        auto* page = new SettingsPage(m_means.themes, m_means.prefs, name);
+        page->setAccessibleName(name);
         info.fill(*page, m_means);
         m_pages->addWidget(page);
         m_made[index] = page;

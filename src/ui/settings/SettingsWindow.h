@@ -24,7 +24,7 @@ public:
     void show(Page page);
     using QWidget::show;
 
-    static QStringList pageNames();
+    static QStringList pageNames(); ///< In English, in the order of Page.
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -3,6 +3,7 @@
 #include "ui/settings/SkinButton.h"
 
 #include "platform/Appearance.h"
+#include "widgets/Mirrored.h"
 #include "widgets/style/StyleTools.h"
 
 #include <QPainter>
@@ -25,10 +26,10 @@ SkinButton::SkinButton(const Themes& themes, const Skin& skin)
 {
     setCheckable(true);
     setAutoExclusive(true);
-    setText(skin.name);
-    setToolTip(skin.desc);
-    setAccessibleName(skin.name);
-    setAccessibleDescription(skin.desc);
+    setText(skin.name());
+    setToolTip(skin.desc());
+    setAccessibleName(skin.name());
+    setAccessibleDescription(skin.desc());
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
     connect(&m_themes, &Themes::changed, this, qOverload<>(&QWidget::update));
@@ -70,12 +71,13 @@ void SkinButton::paintEvent(QPaintEvent*)
     painter.setFont(own.font(TextStyle::Caption));
     const QFontMetricsF metrics(painter.font());
     const QString name
-        = metrics.elidedText(m_skin.name, Qt::ElideRight, box.width() - dot - 2 * Space::related);
+        = metrics.elidedText(m_skin.name(), Qt::ElideRight, box.width() - dot - 2 * Space::related);
     const double width = dot + Space::tiny + metrics.horizontalAdvance(name);
     const double height = own.lineHeight(TextStyle::Caption) + 3;
     const QRectF line(box.center().x() - width / 2, box.bottom() - height - 6, width + 1, height);
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, name);
+    painter.drawText(mirrored(line, *this), Qt::AlignRight | Qt::AlignVCenter, name);
     painter.setPen(Qt::NoPen);
     painter.setBrush(own.accent);
-    painter.drawEllipse(QRectF(line.left(), line.center().y() - dot / 2, dot, dot));
+    painter.drawEllipse(
+        mirrored(QRectF(line.left(), line.center().y() - dot / 2, dot, dot), *this));
 }

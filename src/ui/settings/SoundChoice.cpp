@@ -30,13 +30,13 @@ void SoundChoice::list()
         if (names.contains(item.name))
             continue; // The first of a name is the one that plays.
         names.insert(item.name);
-        addItem(item.name, item.name);
+        addItem(item.name == "Screen Capture"_L1 ? tr("Screen Capture") : item.name, item.name);
     }
     const QString current = m_prefs.get(Prefs::keys.sound);
     insertSeparator(count());
     if (!names.contains(current) && !current.isEmpty())
         addItem(QFileInfo(current).fileName(), current);
-    addItem(u"Choose Your Own…"_s);
+    addItem(tr("Choose Your Own…"));
     setCurrentIndex(findData(current));
 }
 
@@ -58,8 +58,8 @@ void SoundChoice::chooseFile()
     QStringList patterns;
     for (const QString& extension : Sounds::extensions())
         patterns << u"*."_s + extension;
-    auto* dialog
-        = new QFileDialog(this, u"Choose a sound"_s, {}, u"Sounds (%1)"_s.arg(patterns.join(u' ')));
+    auto* dialog = new QFileDialog(
+        this, tr("Choose a sound"), {}, tr("Sounds (%1)").arg(patterns.join(u' ')));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
     connect(dialog, &QFileDialog::fileSelected, this, &SoundChoice::takeFile);

@@ -5,19 +5,17 @@
 #include <QHBoxLayout>
 #include <QLocale>
 
-using namespace Qt::StringLiterals;
-
 StatsView::StatsView(const Themes& themes, const Fun& fun)
     : m_themes(themes)
     , m_fun(fun)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
-    m_total = add(u"Captures"_s);
-    m_today = add(u"Today"_s);
-    m_streak = add(u"Days in a row"_s);
-    m_best = add(u"Best streak"_s);
-    m_level = add(u"Level"_s);
+    m_total = add(tr("Captures"));
+    m_today = add(tr("Today"));
+    m_streak = add(tr("Days in a row"));
+    m_best = add(tr("Best streak"));
+    m_level = add(tr("Level"));
     connect(&m_fun, &Fun::statsChanged, this, &StatsView::show);
     show();
 }

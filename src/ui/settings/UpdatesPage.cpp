@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsPages.h"
 
+#include "base/Words.h"
+
 #include <QLocale>
 #include <QPushButton>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -14,9 +14,10 @@ constexpr const PrefKeys& keys = Prefs::keys;
 QString lastCheck(const Prefs& prefs)
 {
     const QDateTime time = prefs.get(keys.lastUpdateCheck);
-    const QString never = u"Not checked yet."_s;
+    const QString never = Words::tr("Not checked yet.");
     return time.isValid() && time > AnyPrefKey(keys.lastUpdateCheck).defaultValue().toDateTime()
-        ? u"Last checked %1."_s.arg(QLocale().toString(time.toLocalTime(), QLocale::ShortFormat))
+        ? Words::tr("Last checked %1.")
+              .arg(QLocale().toString(time.toLocalTime(), QLocale::ShortFormat))
         : never;
 }
 
@@ -25,9 +26,9 @@ QString lastCheck(const Prefs& prefs)
 void SettingsPages::fillUpdates(SettingsPage& page, const SettingsMeans& means)
 {
     RowGroup& tile = page.addGroup();
-    page.addSwitch(keys.autoUpdate, {u"Check for updates automatically"_s});
+    page.addSwitch(keys.autoUpdate, {Words::tr("Check for updates automatically")});
     Updater& updater = means.updater;
-    auto* check = button(u"Check Now"_s, [&updater] { updater.check(true); });
+    auto* check = button(Words::tr("Check Now"), [&updater] { updater.check(true); });
     auto* version = tile.addRow({u"Pixmallow %1"_s.arg(updater.currentVersion())}, check);
     const auto show = [&page, &updater, version, check] {
         version->setExplanation(
@@ -37,11 +38,11 @@ void SettingsPages::fillUpdates(SettingsPage& page, const SettingsMeans& means)
     page.follow(keys.lastUpdateCheck, show);
     QObject::connect(&updater, &Updater::changed, version, show);
 
-    auto* skipped = tile.addRow({{}, u"You chose to skip this version."_s},
-        button(u"Offer it again"_s, [&page] { page.prefs().unset(keys.skipVersion); }));
+    auto* skipped = tile.addRow({{}, Words::tr("You chose to skip this version.")},
+        button(Words::tr("Offer it again"), [&page] { page.prefs().unset(keys.skipVersion); }));
     page.follow(keys.skipVersion, [&page, skipped] {
         const QString number = page.prefs().get(keys.skipVersion);
-        skipped->setLabel(u"Version %1"_s.arg(number));
+        skipped->setLabel(Words::tr("Version %1").arg(number));
         skipped->setVisible(!number.isEmpty());
     });
 }

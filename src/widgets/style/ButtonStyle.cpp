@@ -101,7 +101,7 @@ void ButtonStyle::paintLabel(
     if (option.features.testFlag(QStyleOptionButton::HasMenu)) {
         const QRect caret = StyleTools::atEnd(option, box, caretSize + 2 * Space::related);
         Icons::paint(painter, u"chevron.down"_s, caret, caretSize, ink);
-        box.setWidth(box.width() - caretSize);
+        box = StyleTools::atStart(option, box, box.width() - caretSize);
     }
     painter.setPen(ink);
     paintContent(painter, option, box,

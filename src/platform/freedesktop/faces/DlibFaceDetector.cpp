@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/faces/DlibFaceDetector.h"
 
+#include "base/Words.h"
 #include "platform/freedesktop/faces/WorkingPicture.h"
 
 #include <QFile>
@@ -63,8 +64,8 @@ Result<QList<QRectF>> DlibFaceDetector::detect(const QImage& picture)
             faces.append(working.face(QRectF(double(found.left()), double(found.top()),
                 double(found.width()), double(found.height()))));
     } catch (const std::exception& reason) {
-        return Error::failed(
-            u"Faces cannot be looked for: %1."_s.arg(QString::fromLocal8Bit(reason.what())));
+        return Error::failed(Words::tr("Faces cannot be looked for: %1.")
+                                 .arg(QString::fromLocal8Bit(reason.what())));
     }
     return faces;
 }

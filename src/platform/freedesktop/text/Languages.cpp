@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/text/Languages.h"
 
+#include "base/Words.h"
+
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
@@ -79,6 +81,7 @@ QString Languages::missing(const QStringList& spoken)
     QStringList packages;
     for (auto model : modelsOf(spoken))
         packages << u"tesseract-ocr-"_s + model.replace(u'_', u'-');
-    return u"No language that text recognition knows is installed; install the Debian package %1."_s
-        .arg(packages.join(u" or "_s));
+    return Words::tr(
+        "No language that text recognition knows is installed; install the Debian package %1.")
+        .arg(packages.join(Words::tr(" or ", "between packages")));
 }

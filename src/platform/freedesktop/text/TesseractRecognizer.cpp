@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/text/TesseractRecognizer.h"
 
+#include "base/Words.h"
 #include "platform/freedesktop/text/Codes.h"
 #include "platform/freedesktop/text/Misreadings.h"
 #include "platform/freedesktop/text/PageImage.h"
@@ -54,8 +55,9 @@ Result<RecognisedText> TesseractRecognizer::recognise(
     if (picture.isNull())
         return RecognisedText {};
     if (std::max(picture.width(), picture.height()) > PageImage::longestSide)
-        return Error::failed(u"The picture is too large to be read, longer than %1 pixels."_s.arg(
-            PageImage::longestSide));
+        return Error::failed(
+            Words::tr("The picture is too large to be read, longer than %1 pixels.")
+                .arg(PageImage::longestSide));
     QImage grey = greyOf(picture);
     const auto codes = readCodes(grey);
     wipe(grey, codes);
@@ -92,8 +94,9 @@ Result<void> TesseractRecognizer::load()
         return Error::failed(Languages::missing(m_languages));
     m_usual = TesseractEngine::load(m_choice.usual);
     if (!m_usual)
-        return Error::failed(u"The language data for text recognition (%1) cannot be loaded."_s.arg(
-            m_choice.usual.join(u", "_s)));
+        return Error::failed(
+            Words::tr("The language data for text recognition (%1) cannot be loaded.")
+                .arg(m_choice.usual.join(u", "_s)));
     return {};
 }
 

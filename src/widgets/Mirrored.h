@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: The Pixmallow authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMenu>
+#include <QWidget>
+
+// What a surface places by itself is written from left to right. These say where that lies for
+// those who read the other way. Layouts, and the alignment of painted text, turn by themselves;
+// margins of layouts do not.
+
+/// @param box points of the widget
+inline QRectF mirrored(QRectF box, const QWidget& in)
+{
+    if (in.isRightToLeft())
+        box.moveLeft(in.width() - box.right());
+    return box;
+}
+
+inline QMargins mirrored(const QMargins& margins, const QWidget& in)
+{
+    return in.isRightToLeft()
+        ? QMargins(margins.right(), margins.top(), margins.left(), margins.bottom())
+        : margins;
+}
+
+/// Where a menu opens below a control, their edges in line at the beginning. Global points.
+inline QPoint placeBelow(const QWidget& control, const QMenu& menu)
+{
+    const int left = control.isRightToLeft() ? control.width() - menu.sizeHint().width() : 0;
+    return control.mapToGlobal(QPoint(left, control.height()));
+}
