@@ -33,7 +33,7 @@ QLocale Language::install(const QStringList& wanted)
     makeTranslationsKnown();
     for (const QString& language : wanted) {
         const QLocale locale(language);
-        if (locale.language() == QLocale::English || locale.language() == QLocale::C)
+        if (locale.language() == QLocale::English || language == "C"_L1)
             break; // Languages after it are less wanted.
         if (!installFrom(u":/translations"_s, u"pixmallow"_s, locale))
             continue;

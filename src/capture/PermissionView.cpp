@@ -93,8 +93,10 @@ void PermissionView::tell()
         m_hero->setSymbol(m_granted ? u"checkmark.seal.fill"_s : u"camera.viewfinder"_s);
         m_title->setText(title);
     }
-    if (m_text->text() != text)
+    if (m_text->text() != text) {
         m_text->setText(text);
+        m_text->setMinimumHeight(m_text->heightForWidth(lineWidth)); // Other languages need more.
+    }
     m_start->setVisible(m_granted);
     m_settings->setVisible(!m_granted);
     m_restart->setVisible(!m_granted);

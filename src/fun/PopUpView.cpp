@@ -66,7 +66,7 @@ void PopUpView::paintEvent(QPaintEvent*)
         box.setHeight(theme.lineHeight(line.style));
         painter.setFont(theme.font(line.style));
         painter.setPen(line.colour);
-        painter.drawText(mirrored(box, *this), Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(mirrored(box, *this), int(startSide() | Qt::AlignVCenter),
             painter.fontMetrics().elidedText(line.text, Qt::ElideRight, box.width()));
         box.translate(0, box.height());
     }

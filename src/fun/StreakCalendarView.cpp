@@ -90,14 +90,14 @@ void StreakCalendarView::paintTitle(QPainter& painter) const
         theme().lineHeight(TextStyle::Headline));
     painter.setFont(theme().font(TextStyle::Headline));
     painter.setPen(theme().text);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, m_title);
+    painter.drawText(line, int(startSide() | Qt::AlignVCenter), m_title);
     painter.setFont(theme().font(TextStyle::Callout));
     painter.setPen(theme().secondary);
     if (isDetailBelow())
         painter.drawText(
-            line.translated(0, line.height()), Qt::AlignLeft | Qt::AlignVCenter, m_detail);
+            line.translated(0, line.height()), int(startSide() | Qt::AlignVCenter), m_detail);
     else
-        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_detail);
+        painter.drawText(line, int(endSide() | Qt::AlignVCenter), m_detail);
 }
 
 /// Over the weeks that they begin in; the last weeks have no room for a name.
@@ -111,7 +111,7 @@ void StreakCalendarView::paintMonths(QPainter& painter) const
             painter.drawText(mirrored(QRectF(Space::group + day / 7 * step,
                                           dotsTop() - Space::tiny - height, 3.0 * step, height),
                                  *this),
-                Qt::AlignLeft | Qt::AlignVCenter,
+                int(startSide() | Qt::AlignVCenter),
                 m_locale.standaloneMonthName(date.month(), QLocale::ShortFormat));
     }
 }

@@ -5,6 +5,7 @@
 #include "history/CardPictures.h"
 #include "widgets/Contrast.h"
 #include "widgets/Icons.h"
+#include "widgets/Mirrored.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -56,7 +57,7 @@ void CardPainter::paint(QPainter& painter, const Card& card) const
     line.adjust(Space::tiny, 0, -Space::tiny, 0);
     painter.setFont(m_lineFont);
     painter.setPen(card.found.isEmpty() ? m_theme.text : m_theme.secondary);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(line, int(startSide() | Qt::AlignVCenter),
         QFontMetrics(m_lineFont).elidedText(card.line, Qt::ElideRight, line.width()));
     if (!card.found.isEmpty())
         paintFound(painter, line.translated(0, lineHeight), card.found);
@@ -132,6 +133,6 @@ void CardPainter::paintHeading(
     }
     painter.setFont(m_headingFont);
     painter.setPen(m_theme.text);
-    painter.drawText(box.adjusted(margin, 0, -margin, 0), Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(box.adjusted(margin, 0, -margin, 0), int(startSide() | Qt::AlignVCenter),
         QFontMetrics(m_headingFont).elidedText(title, Qt::ElideRight, box.width() - 2 * margin));
 }

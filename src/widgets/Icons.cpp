@@ -60,7 +60,6 @@ public:
         QPixmap pixmap(pixels);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        painter.setLayoutDirection(QGuiApplication::layoutDirection());
         paint(&painter, {{}, pixels}, mode, state);
         return pixmap;
     }
@@ -107,7 +106,7 @@ void Icons::paint(
     const auto whole = [scale](double at) { return std::round(at * scale) / scale; };
     const QPointF corner = box.center() - QPointF(size, size) / 2;
     const QPointF place(whole(corner.x()), whole(corner.y()));
-    if (painter.layoutDirection() == Qt::LeftToRight || !IconFiles::hasDirection(symbol)) {
+    if (QGuiApplication::isLeftToRight() || !IconFiles::hasDirection(symbol)) {
         painter.drawPixmap(place, drawn);
         return;
     }

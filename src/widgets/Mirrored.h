@@ -2,12 +2,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QGuiApplication>
 #include <QMenu>
+#include <QStyle>
 #include <QWidget>
 
 // What a surface places by itself is written from left to right. These say where that lies for
-// those who read the other way. Layouts, and the alignment of painted text, turn by themselves;
-// margins of layouts do not.
+// those who read the other way. Layouts turn by themselves, but not their margins; text goes by its
+// own letters, which may be those of another language.
+
+/// Where lines of text begin.
+inline Qt::Alignment startSide(Qt::LayoutDirection direction = QGuiApplication::layoutDirection())
+{
+    return QStyle::visualAlignment(direction, Qt::AlignLeft);
+}
+
+/// Where they end.
+inline Qt::Alignment endSide(Qt::LayoutDirection direction = QGuiApplication::layoutDirection())
+{
+    return QStyle::visualAlignment(direction, Qt::AlignRight);
+}
 
 /// @param box points of the widget
 inline QRectF mirrored(QRectF box, const QWidget& in)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/TextLabel.h"
 
+#include "widgets/Mirrored.h"
+
 #include <QPainter>
 
 TextLabel::TextLabel(const Themes& themes, TextStyle style, Role role, Lines lines, QWidget* parent)
@@ -11,6 +13,7 @@ TextLabel::TextLabel(const Themes& themes, TextStyle style, Role role, Lines lin
     , m_role(role)
 {
     setTextFormat(Qt::PlainText);
+    setAlignment(startSide() | Qt::AlignVCenter);
     setWordWrap(lines == Lines::Wrapped);
     adoptTheme();
     connect(&m_themes, &Themes::changed, this, &TextLabel::adoptTheme);

@@ -51,6 +51,12 @@ void GalleryWorld::wear(const QString& skin, bool dark, double textScale)
     skins.apply();
 }
 
+QLocale GalleryWorld::locale()
+{
+    const QString language = qEnvironmentVariable("LANGUAGE");
+    return QLocale(language.isEmpty() ? u"en_GB"_s : language);
+}
+
 QImage GalleryWorld::picture(QSize size)
 {
     QImage image(size, QImage::Format_RGB32);

@@ -8,6 +8,7 @@
 #include "platform/fake/FakeSurfaceTraits.h"
 #include "widgets/ApplicationLook.h"
 
+#include <QLocale>
 #include <QTemporaryDir>
 
 /// What surfaces need to be made, with nothing of the user's in it.
@@ -28,6 +29,7 @@ struct GalleryWorld {
     Themes themes;
     ApplicationLook look {{themes, surfaces}};
 
+    static QLocale locale(); ///< The same for whoever looks, unless another language is asked for.
     static QImage picture(QSize size); ///< Something like a screen with windows.
 };
 

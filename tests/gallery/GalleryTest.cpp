@@ -42,7 +42,7 @@ QString variant()
 {
     QString variant;
     if (qEnvironmentVariable("LANGUAGE") == u"de"_s) {
-        QLocale::setDefault(QLocale(QLocale::German));
+        QLocale::setDefault(GalleryWorld::locale());
         Language::install({u"de"_s});
         variant += u"-de"_s;
     }

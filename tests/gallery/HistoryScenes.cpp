@@ -86,7 +86,7 @@ std::unique_ptr<QWidget> HistoryScenes::history(
 {
     auto* past = new Past(world, captures);
     const auto calendar = [] {
-        return DayCalendar {QTimeZone::utc(), QLocale(u"en_GB"_s), now.date()};
+        return DayCalendar {QTimeZone::utc(), GalleryWorld::locale(), now.date()};
     };
     auto view = std::make_unique<HistoryView>(
         HistoryView::Means {world.themes, past->store, past->actions, past->texts, calendar});
@@ -124,7 +124,7 @@ std::unique_ptr<QWidget> HistoryScenes::achievements(GalleryWorld& world)
     std::ignore = ensurePrivateFolder(folders.data);
     std::ignore = writeFile(folders.data + u"/stats.json"_s, stats.toJson(),
         {AtomicFile::Existing::Replace, AtomicFile::Access::OwnerOnly});
-    QLocale::setDefault(QLocale(u"en_GB"_s)); // The same for whoever looks.
+    QLocale::setDefault(GalleryWorld::locale());
     auto* fun = new Fun(folders, world.prefs, {[] { return now; }, [](int) { return 0; }});
     auto view = std::make_unique<GalleryView>(world.themes, *fun);
     QObject::connect(view.get(), &QObject::destroyed, fun, &QObject::deleteLater);

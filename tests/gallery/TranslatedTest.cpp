@@ -34,7 +34,10 @@ bool needsNoTranslation(QString text)
     static const QRegularExpression same(
         // Names of the program, of sounds and of what the scenes show.
         u"Pixmallow|Pixie|Terminal|Files|Pop|Tink|Glass|Chirp|Zap|Coin|Sparkle|Boom|Screen Capture"
-        "|PNG|JPEG|XP|qt_\\w+|https?://\\S+|[\\w/.-]+\\.(png|wav)|#[0-9a-f]{6}"_s);
+        "|PNG|JPEG|XP|/home/\\S+|#[0-9a-f]{6}"
+        // What the scenes make up.
+        "|Update to 1.3|Show in Folder|Copied|Saved|slay|certified screenshot moment|Downloading…"
+        "|A new skin.|Captures of several screens .*|The region's edges .*"_s);
     static const QRegularExpression words(u"\\p{L}{3,}"_s);
     return !text.remove(same).contains(words);
 }
@@ -61,8 +64,8 @@ QStringList textsOf(const QWidget& widget)
 }
 
 /// Those whose texts are no surface's but made up for the picture.
-const QStringList samples {u"buttons"_s, u"letters"_s, u"controls"_s, u"menu"_s, u"phrases"_s,
-    u"toast"_s, u"toast-failed"_s, u"pop-up"_s};
+const QStringList samples {u"buttons"_s, u"letters"_s, u"controls"_s, u"menu"_s, u"stickers"_s,
+    u"phrases"_s, u"toast"_s, u"toast-failed"_s, u"pop-up"_s};
 
 } // namespace
 

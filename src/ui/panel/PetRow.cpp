@@ -70,13 +70,13 @@ void PetRow::paintEvent(QPaintEvent*)
     paintLevel(painter, nameLine);
     painter.setFont(theme.font(TextStyle::Headline));
     painter.setPen(theme.text);
-    painter.drawText(mirrored(nameLine, *this), Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(mirrored(nameLine, *this), int(startSide() | Qt::AlignVCenter),
         painter.fontMetrics().elidedText(
             m_fun.stats().petName, Qt::ElideRight, int(nameLine.width()) - barWidth - 56));
     painter.setFont(theme.font(TextStyle::Callout));
     painter.setPen(theme.secondary);
     painter.drawText(mirrored(QRectF(box.left(), top + first, box.width(), second), *this),
-        Qt::AlignLeft | Qt::AlignVCenter,
+        int(startSide() | Qt::AlignVCenter),
         painter.fontMetrics().elidedText(m_mood, Qt::ElideRight, int(box.width())));
 }
 
@@ -95,5 +95,5 @@ void PetRow::paintLevel(QPainter& painter, QRectF line) const
     painter.setFont(theme.font(TextStyle::Caption));
     painter.setPen(theme.secondary);
     painter.drawText(mirrored(line.adjusted(0, 0, -barWidth - Space::related, 0), *this),
-        Qt::AlignRight | Qt::AlignVCenter, tr("Lv %1").arg(level));
+        int(endSide() | Qt::AlignVCenter), tr("Lv %1").arg(level));
 }

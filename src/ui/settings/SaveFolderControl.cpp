@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SaveFolderControl.h"
 
+#include "widgets/Mirrored.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -30,7 +32,7 @@ SaveFolderControl::SaveFolderControl(const Themes& themes, Prefs& prefs)
     row->setContentsMargins({});
     row->setSpacing(Space::inner);
     m_name->setFixedWidth(nameWidth);
-    m_name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_name->setAlignment(endSide() | Qt::AlignVCenter);
     row->addWidget(m_name);
     auto* button = new QPushButton(tr("Choose…"));
     button->setAutoDefault(false);

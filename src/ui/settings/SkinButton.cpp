@@ -75,7 +75,7 @@ void SkinButton::paintEvent(QPaintEvent*)
     const double width = dot + Space::tiny + metrics.horizontalAdvance(name);
     const double height = own.lineHeight(TextStyle::Caption) + 3;
     const QRectF line(box.center().x() - width / 2, box.bottom() - height - 6, width + 1, height);
-    painter.drawText(mirrored(line, *this), Qt::AlignRight | Qt::AlignVCenter, name);
+    painter.drawText(mirrored(line, *this), int(endSide() | Qt::AlignVCenter), name);
     painter.setPen(Qt::NoPen);
     painter.setBrush(own.accent);
     painter.drawEllipse(

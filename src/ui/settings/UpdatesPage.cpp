@@ -7,6 +7,8 @@
 #include <QLocale>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const PrefKeys& keys = Prefs::keys;
