@@ -69,7 +69,7 @@ SettingsMeans settingsMeans(DesktopPlatform& platform, World& world)
 {
     return {world.rooms.surroundings().themes, world.prefs, world.state, world.hotkeys,
         world.rooms.skins(), world.rooms.sounds(), world.rooms.fun(), world.rooms.updater(),
-        *platform.workspace, platform.words, [] {}};
+        *platform.workspace, platform.words, *platform.clipboard, {}, [] {}};
 }
 
 void tell(const Rounds& rounds, const QString& name, Limit limit)
