@@ -50,7 +50,7 @@ Requests::Report withEntry(Rooms& rooms, EntryDeed deed, const QString& id)
     if (found == items.cend())
         return Requests::Report::answered(CaptureReport {
             Outcome::NotFound, Words::tr("The history has no entry “%1”.").arg(id.left(40))});
-    const HistoryItem item = *found;
+    const HistoryItem& item = *found;
     switch (deed) {
     case EntryDeed::Edit:
         return openEntry(item, editingIn(rooms.editors()));
@@ -63,7 +63,7 @@ Requests::Report withEntry(Rooms& rooms, EntryDeed deed, const QString& id)
     case EntryDeed::Remove:
         break;
     }
-    rooms.history().remove(item);
+    rooms.history().remove(HistoryItem(item)); // The list's own goes meanwhile.
     return Requests::Report::answered(CaptureReport {Outcome::Done});
 }
 
