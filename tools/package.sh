@@ -28,6 +28,8 @@ system_with() {
         --hook-dir=/usr/share/mmdebstrap/hooks/file-mirror-automount \
         --include="$1" --include=tesseract-ocr-eng,dbus \
         "$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)" "$2" "${sources[@]}"
+    # The bus asks who its user is.
+    echo 'user:x:1000:1000::/home/user:/bin/sh' | as_root tee --append "$2/etc/passwd" >/dev/null
     as_root mkdir -p "$2/tmp/.X11-unix"
     as_root install -d -m 700 -o 1000 -g 1000 "$2/home/user" "$2/home/user/runtime"
 }
