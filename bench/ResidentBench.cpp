@@ -252,19 +252,25 @@ Result<void> measureResident(
         qPrintable(judged(double(statusOf(pid, "VmRSS")) / 1024, idleMebibytes)));
     measureIdleness(pid, idleSeconds);
 
-    const QString later = u"later ones"_s, encoding = u"encoding"_s;
+    const QString later = u"later ones"_s, encoding = u"encoding"_s, copying = u"memcpy"_s;
     const Bitmap bitmap = bitmapOf(picture);
     std::optional<Error> failure;
     Rounds rounds;
     addCosts(
         rounds, later, [&] { return capture(desktop, folders, pid); }, failure);
     rounds.add(encoding, [&] { encode(bitmap); });
+    QImage copied = picture.copy();
+    rounds.add(copying, [&] {
+        std::memcpy(copied.bits(), picture.constBits(), std::size_t(picture.sizeInBytes()));
+    });
     rounds.run(roundCount);
     if (failure)
         return *failure;
     print(rounds, later);
     std::printf("encoding alone, in this process: cpu ms %.1f; a capture takes %.2f of it\n",
         rounds.medianCpu(encoding), rounds.ratio(later, encoding));
+    std::printf("memcpy of the picture: cpu ms %.1f; a capture takes %.1f of it\n",
+        rounds.medianCpu(copying), rounds.ratio(later, copying));
     std::printf(
         "resident MiB with its last capture: %.1f\n", double(statusOf(pid, "VmRSS")) / 1024);
     return {};
