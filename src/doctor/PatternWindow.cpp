@@ -4,13 +4,12 @@
 
 #include <QPainter>
 
-PatternWindow::PatternWindow(
-    SurfaceTraits& surfaces, const DisplayInfo& display, const QImage& picture)
-    : m_picture(picture)
+PatternWindow::PatternWindow(SurfaceTraits& surfaces, const DisplayInfo& display, QImage picture)
+    : m_picture(std::move(picture))
     , m_place(display)
 {
     setSurfaceType(QSurface::RasterSurface);
-    m_place.native.setSize(picture.size()); // The corner is at the same place in points.
+    m_place.native.setSize(m_picture.size()); // The corner is at the same place in points.
     surfaces.makeOverlay(*this, m_place);
     surfaces.setInputRegion(*this, {});
     show();

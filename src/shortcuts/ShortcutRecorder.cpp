@@ -15,6 +15,11 @@ constexpr std::uint32_t escape = 53;
 constexpr std::uint32_t backspace = 51;
 constexpr std::uint32_t forwardDelete = 117;
 
+bool clears(std::uint32_t code)
+{
+    return code == backspace || code == forwardDelete;
+}
+
 constexpr int leastWidth = 132; // Points; so that a column of them has one edge.
 
 bool isModifier(int key)
@@ -111,7 +116,7 @@ void ShortcutRecorder::take(const KeyDown& key)
     const auto code = key.keyCode();
     if (code == escape) {
         stop();
-    } else if (code == backspace || code == forwardDelete) {
+    } else if (code && clears(*code)) {
         m_means.prefs.set(m_key, u""_s); // Not removed, or the default would be back.
         stop();
     } else if (const auto combo = KeyCombo::fromKeyDown(key)) {

@@ -9,8 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
-ShortcutSettings::ShortcutSettings(const Means& means)
-    : m_means(means)
+ShortcutSettings::ShortcutSettings(Means means)
+    : m_means(std::move(means))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});

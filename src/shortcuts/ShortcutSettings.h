@@ -18,7 +18,7 @@ public:
         QString footer;
     };
 
-    explicit ShortcutSettings(const Means& means);
+    explicit ShortcutSettings(Means means);
 
     /// Looks anew which shortcuts do not work, and marks them.
     void mark();

@@ -45,7 +45,7 @@ std::optional<QString> textOf(const QJsonObject& object, QLatin1StringView name)
 QStringList notesOf(const QJsonValue& value)
 {
     QStringList notes;
-    for (const QJsonValue& note : value.toArray()) {
+    for (const auto& note : value.toArray()) {
         if (!note.isString())
             return {};
         notes << note.toString();

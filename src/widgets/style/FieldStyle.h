@@ -15,11 +15,11 @@ namespace FieldStyle {
 void paintField(QPainter& painter, const QStyleOption& option, const Theme& theme);
 
 void paintNumber(QPainter& painter, const QStyleOptionSpinBox& option, const Theme& theme);
-QRect numberPart(const QStyleOptionSpinBox& option, QStyle::SubControl part);
+QRect numberPart(const QStyleOptionSpinBox& option, QStyle::SubControl wanted);
 
 void paintChoice(QPainter& painter, const QStyleOptionComboBox& option, const Theme& theme);
 void paintChoiceLabel(QPainter& painter, const QStyleOptionComboBox& option, const Theme& theme);
-QRect choicePart(const QStyleOptionComboBox& option, QStyle::SubControl part);
+QRect choicePart(const QStyleOptionComboBox& option, QStyle::SubControl wanted);
 
 QSize lineSize(QSize contents);
 QSize numberSize(QSize contents);

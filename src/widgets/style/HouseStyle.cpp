@@ -72,9 +72,9 @@ QRegion rounded(QRect box, double radius)
 
 } // namespace
 
-HouseStyle::HouseStyle(Theme theme, MenuStyle::Corners corners)
+HouseStyle::HouseStyle(const Theme& theme, MenuStyle::Corners corners)
     : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) // It takes all colours from palettes.
-    , m_theme(std::move(theme))
+    , m_theme(theme)
     , m_corners(corners)
 {
 }

@@ -13,7 +13,7 @@ class HouseStyle final : public QProxyStyle {
     Q_OBJECT
 
 public:
-    HouseStyle(Theme theme, MenuStyle::Corners corners);
+    HouseStyle(const Theme& theme, MenuStyle::Corners corners);
 
     /// @param corners of menus and tooltips that are opened from now on
     void wear(const Theme& theme, MenuStyle::Corners corners);
