@@ -8,7 +8,7 @@
 namespace BusNames {
 
 QString service(); ///< The name that the resident program owns.
-QString path(); ///< Of its one object, as the desktop's specification derives it from the name.
+QString path(); ///< Of its one object, as desktops derive it from the name.
 QString interface(); ///< The number at its end changes with what would break callers.
 
 QString invalidArguments(); ///< The error of a call that makes no sense.
