@@ -67,6 +67,11 @@ struct Reader {
     void (*read)(const Place& place, const QByteArray& bytes);
 };
 
+void PrintTo(const Reader& reader, std::ostream* stream)
+{
+    *stream << reader.what;
+}
+
 QByteArray encoded(const QImage& image, const char* format)
 {
     QBuffer buffer;
