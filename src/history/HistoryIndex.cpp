@@ -271,11 +271,14 @@ std::optional<QList<HistoryItem>> HistoryIndex::parse(QByteArray text)
     // Iterative: a text of opening brackets must not use up the stack.
     constexpr unsigned flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag
         | rapidjson::kParseNumbersAsStringsFlag;
+    const bool isWhole = !text.contains('\0'); // Where the reader would take the text to end.
+    if (!isWhole || !QUtf8StringView(text).isValidUtf8())
+        return std::nullopt;
+    IndexHandler handler(text.size());
+    text.append(15, '\0'); // It looks at 16 aligned bytes at once, so at some behind the text.
     rapidjson::InsituStringStream stream(text.data());
     rapidjson::Reader reader;
-    IndexHandler handler(text.size());
-    const bool isWhole = !text.contains('\0'); // Where the reader would take the text to end.
-    if (!isWhole || !QUtf8StringView(text).isValidUtf8() || !reader.Parse<flags>(stream, handler))
+    if (!reader.Parse<flags>(stream, handler))
         return std::nullopt;
     return handler.takeItems();
 }
