@@ -16,6 +16,11 @@ QRectF grown(const QRectF& rect, double by)
     return rect.adjusted(-by, -by, by, by);
 }
 
+double drawnWidth(double width)
+{
+    return std::max(width, 1.001);
+}
+
 double length(QPointF vector)
 {
     return std::hypot(vector.x(), vector.y());

@@ -12,6 +12,10 @@ QRectF spanned(QPointF one, QPointF other);
 /// With each side moved outward.
 QRectF grown(const QRectF& rect, double by);
 
+/// The width to draw a stroke of this one with, in pixels of the picture: more than one. A thinner
+/// one the toolkit draws line by line, each with an end that changes when another line follows.
+double drawnWidth(double width);
+
 double length(QPointF vector);
 
 /// From a point to the nearest point of the segment.

@@ -154,6 +154,20 @@ TEST(CanvasPictureTest, showsPieceByPieceWhatFlatteningGives)
     }
 }
 
+TEST(CanvasPictureTest, showsAThinStrokeThatLeavesThePictureAsFlatteningGivesIt)
+{
+    QImage flattened = picture({200, 150});
+    Annotation stroke(Tool::Pen, Qt::red, 1);
+    stroke.points = {{60, 13}, {96, -47}, {91, -39.5}, {96.5, -33.5}};
+    const Annotation* const marks[] = {&stroke};
+    CanvasPicture shown;
+    shown.update(flattened, marks, flattened.rect());
+    QPainter painter(&flattened);
+    painter.setRenderHint(QPainter::Antialiasing);
+    stroke.draw(painter, flattened);
+    EXPECT_EQ(difference(shown.pixels(), flattened), 0);
+}
+
 TEST(CanvasPictureTest, undoesAndRedoesToTheSamePixels)
 {
     for (unsigned seed = 100; seed < 100 + unsigned(2 * rounds()); ++seed) {

@@ -8,7 +8,7 @@
 
 void Ellipse::draw(QPainter& painter, const Annotation& it, const QImage&) const
 {
-    painter.setPen(QPen(it.color, it.width));
+    painter.setPen(QPen(it.color, drawnWidth(it.width)));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(spanned(it.a, it.b));
 }

@@ -10,7 +10,7 @@ void Rect::draw(QPainter& painter, const Annotation& it, const QImage&) const
 {
     constexpr double radius = 3;
     // Where a side has no length, mitred corners would be spikes.
-    painter.setPen(QPen(it.color, it.width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.setPen(QPen(it.color, drawnWidth(it.width), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(spanned(it.a, it.b), radius, radius);
 }
