@@ -7,10 +7,11 @@
 #include <QWidget>
 
 #include <cstdio>
+#include <utility>
 
 namespace {
 
-/// Takes files that are dropped on it and tells their paths.
+/// Takes files that are dropped on it; tells of each step above it, and the paths of the dropped.
 class Target final : public QWidget {
 public:
     Target() { setAcceptDrops(true); }
@@ -21,23 +22,26 @@ protected:
         if (event->mimeData()->hasUrls())
             event->acceptProposedAction();
     }
+    void dragMoveEvent(QDragMoveEvent*) override { tell("over"); }
     void dropEvent(QDropEvent* event) override
     {
         for (const QUrl& url : event->mimeData()->urls())
-            std::printf("dropped %s\n", url.toLocalFile().toLocal8Bit().constData());
-        std::fflush(stdout);
+            tell("dropped " + url.toLocalFile().toLocal8Bit());
         event->acceptProposedAction();
     }
     void paintEvent(QPaintEvent*) override
     {
-        if (m_told)
-            return;
-        m_told = true;
-        std::printf("ready\n");
-        std::fflush(stdout);
+        if (!std::exchange(m_told, true))
+            tell("ready");
     }
 
 private:
+    static void tell(const QByteArray& line)
+    {
+        std::printf("%s\n", line.constData());
+        std::fflush(stdout);
+    }
+
     bool m_told = false;
 };
 
