@@ -4,9 +4,9 @@
 
 #include <QPainter>
 
-PatternWindow::PatternWindow(SurfaceTraits& surfaces, const DisplayInfo& display, QImage picture)
+PatternWindow::PatternWindow(SurfaceTraits& surfaces, DisplayInfo display, QImage picture)
     : m_picture(std::move(picture))
-    , m_place(display)
+    , m_place(std::move(display))
 {
     setSurfaceType(QSurface::RasterSurface);
     m_place.native.setSize(m_picture.size()); // The corner is at the same place in points.

@@ -15,7 +15,7 @@ class PatternWindow final : public QWindow {
 
 public:
     /// @param picture of device pixels; smaller than the screen.
-    PatternWindow(SurfaceTraits& surfaces, const DisplayInfo& display, QImage picture);
+    PatternWindow(SurfaceTraits& surfaces, DisplayInfo display, QImage picture);
 
     QRect native() const { return m_place.native; } ///< Device pixels of the whole desktop, y down.
 

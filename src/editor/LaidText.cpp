@@ -137,8 +137,8 @@ void LaidText::place(const Paragraph& paragraph, Lines lines, qsizetype firstInd
     for (std::size_t at = 0; at < paragraph.characters.size(); ++at) {
         const auto& [place, emoji] = paragraph.characters[at];
         const auto runs = paragraph.line.glyphRuns(int(place.from), int(place.length));
-        if (QPainterPath outline = outlineOf(runs, offset); !outline.isEmpty())
-            m_letters.push_back({firstIndex + qsizetype(at), std::move(outline)});
+        if (const QPainterPath outline = outlineOf(runs, offset); !outline.isEmpty())
+            m_letters.push_back({firstIndex + qsizetype(at), outline});
     }
     for (const Letter& letter : m_letters)
         if (letter.index >= firstIndex)

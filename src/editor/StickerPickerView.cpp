@@ -38,14 +38,14 @@ QWidget* emojiGrid(const Themes& themes, const StickerPickerView::Picked& picked
 } // namespace
 
 StickerPickerView::StickerPickerView(
-    const Themes& themes, Picked emoji, Picked phrase, QWidget* parent)
+    const Themes& themes, const Picked& emoji, const Picked& phrase, QWidget* parent)
     : QWidget(parent)
     , m_tabs(new SegmentedControl(
           themes, Words::tr("Stickers"), {{{}, Words::tr("Emoji")}, {{}, Words::tr("Text")}}))
     , m_pages(new QStackedWidget)
 {
     m_pages->addWidget(emojiGrid(themes, emoji));
-    m_pages->addWidget(new FlowChips(themes, Stickers::text(), std::move(phrase)));
+    m_pages->addWidget(new FlowChips(themes, Stickers::text(), phrase));
     m_pages->setFixedHeight(pageHeight);
     m_tabs->setCurrent(0);
     connect(m_tabs, &SegmentedControl::chosen, m_pages, &QStackedWidget::setCurrentIndex);

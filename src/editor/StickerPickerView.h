@@ -13,7 +13,8 @@ class StickerPickerView final : public QWidget {
 public:
     using Picked = std::function<void(const QString&)>;
 
-    StickerPickerView(const Themes& themes, Picked emoji, Picked phrase, QWidget* parent = nullptr);
+    StickerPickerView(
+        const Themes& themes, const Picked& emoji, const Picked& phrase, QWidget* parent = nullptr);
 
 private:
     SegmentedControl* m_tabs;

@@ -44,7 +44,6 @@ Crumbling::Crumbling(const FxStage& stage, double duration)
     : m_area(stage.area)
     , m_bounds(m_area.adjusted(-blownAside, -blownUp - 40, 1.6 * blownAside, 40))
     , m_duration(duration)
-    , m_shade(0xff000000)
 {
     const QImage picture = stage.picture.depth() == 32
         ? stage.picture

@@ -28,5 +28,5 @@ private:
     QRectF m_area;
     QRectF m_bounds;
     double m_duration;
-    QRgb m_shade; ///< Of the hole that a cell leaves and that closes again.
+    QRgb m_shade = 0xff000000; ///< Of the hole that a cell leaves and that closes again.
 };

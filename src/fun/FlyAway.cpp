@@ -20,7 +20,6 @@ FlyAway::FlyAway(const FxStage& stage, double duration)
     , m_landing(stage.landing)
     , m_duration(duration)
     , m_accent(stage.theme.accent.rgb())
-    , m_shadow(0xff000000)
 {
     // First up, or down, then aside: the picture comes into its landing upright.
     const QPointF from = m_area.center();

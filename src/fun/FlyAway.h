@@ -21,5 +21,5 @@ private:
     QRectF m_bounds;
     double m_duration;
     QRgb m_accent;
-    QRgb m_shadow;
+    QRgb m_shadow = 0xff000000;
 };

@@ -29,7 +29,8 @@ void FxTiles::add(QRectF box)
 void FxTiles::add(const FxTiles& others)
 {
     for (std::size_t i = 0; i < m_touched.size(); ++i)
-        m_touched[i] |= others.m_touched[i];
+        if (others.m_touched[i])
+            m_touched[i] = 1;
 }
 
 void FxTiles::clear()

@@ -25,7 +25,7 @@ double Pet::progress(qint64 xp)
 {
     const auto begins = [](qint64 level) { return 40 * (level - 1) * (level - 1); };
     const int now = level(xp);
-    const double way = double(begins(now + 1) - begins(now));
+    const auto way = double(begins(now + 1) - begins(now));
     return std::clamp(double(xp - begins(now)) / way, 0.0, 1.0);
 }
 

@@ -181,7 +181,7 @@ void PetCard::paintEvent(QPaintEvent* event)
 void PetCard::paintLevel(QPainter& painter) const
 {
     const int level = m_fun.level();
-    const double from = double(pointsFor(level)), to = double(pointsFor(level + 1));
+    const auto from = double(pointsFor(level)), to = double(pointsFor(level + 1));
     const double done = std::clamp((double(m_fun.stats().xp) - from) / (to - from), 0.0, 1.0);
     QRectF bar = m_level->geometry();
     const double round = barHeight / 2.0;

@@ -12,7 +12,7 @@ QList<StreakCalendar::Day> StreakCalendar::days(
     const int intoWeek = (today.dayOfWeek() - int(first) + 7) % 7;
     const QDate begin = today.addDays(-intoWeek - 7 * (weeks - 1));
     QList<Day> days;
-    qint64 most = 0;
+    qint64 most = 1;
     for (QDate date = begin; date <= today; date = date.addDays(1)) {
         days.append({date, stats.days.value(FunRules::dayKey(date))});
         most = std::max(most, days.last().captures);

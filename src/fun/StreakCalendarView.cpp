@@ -21,6 +21,12 @@ constexpr int step = side + Space::tiny;
 constexpr double todayRing = 1.5;
 constexpr std::array<double, StreakCalendar::strengths + 1> tones {0, 0.3, 0.52, 0.76, 1};
 
+/// Where the week of a day begins, in points from the starting side; the days count from 0.
+int columnOf(int day)
+{
+    return Space::group + day / 7 * step;
+}
+
 } // namespace
 
 StreakCalendarView::StreakCalendarView(const Themes& themes, QWidget* parent)
@@ -69,8 +75,7 @@ QSize StreakCalendarView::sizeHint() const
 
 QRectF StreakCalendarView::dot(int day) const
 {
-    return mirrored(
-        QRectF(Space::group + day / 7 * step, dotsTop() + day % 7 * step, side, side), *this);
+    return mirrored(QRectF(columnOf(day), dotsTop() + day % 7 * step, side, side), *this);
 }
 
 void StreakCalendarView::paintEvent(QPaintEvent* event)
@@ -107,11 +112,9 @@ void StreakCalendarView::paintMonths(QPainter& painter) const
     painter.setFont(theme().font(TextStyle::Caption));
     for (int day = 0; day + 14 < m_days.size(); day += 7) {
         const QDate date = m_days[day].date;
+        const QRectF place(columnOf(day), dotsTop() - Space::tiny - height, 3.0 * step, height);
         if (date.day() <= (day == 0 ? 14 : 7))
-            painter.drawText(mirrored(QRectF(Space::group + day / 7 * step,
-                                          dotsTop() - Space::tiny - height, 3.0 * step, height),
-                                 *this),
-                int(startSide() | Qt::AlignVCenter),
+            painter.drawText(mirrored(place, *this), int(startSide() | Qt::AlignVCenter),
                 m_locale.standaloneMonthName(date.month(), QLocale::ShortFormat));
     }
 }

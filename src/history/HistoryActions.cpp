@@ -172,7 +172,7 @@ void HistoryActions::openFolder()
 
 void HistoryActions::fill(QMenu& menu, const QList<HistoryItem>& items, QWidget& asking)
 {
-    const HistoryItem first = items.first();
+    const HistoryItem& first = items.first();
     const bool isOne = items.size() == 1;
     const Theme& theme = m_means.themes.current();
     const auto add = [&](const QString& title, const QString& symbol, bool offered, auto act) {

@@ -72,8 +72,8 @@ QByteArray searchable(const QString& text)
     return bytes;
 }
 
-HistoryCatalogue::HistoryCatalogue(const DayCalendar& calendar)
-    : m_calendar(calendar)
+HistoryCatalogue::HistoryCatalogue(DayCalendar calendar)
+    : m_calendar(std::move(calendar))
 {
 }
 

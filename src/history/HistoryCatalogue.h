@@ -19,7 +19,7 @@ class HistoryCatalogue final {
 public:
     enum class Found { No, InWords, InText };
 
-    explicit HistoryCatalogue(const DayCalendar& calendar);
+    explicit HistoryCatalogue(DayCalendar calendar);
 
     /// What entries say by themselves: program, file name, date and time.
     static QString wordsOf(const HistoryItem& item, const DayCalendar& calendar);

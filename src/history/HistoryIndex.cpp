@@ -66,6 +66,7 @@ public:
     }
     QList<HistoryItem> takeItems() { return std::move(m_items); }
 
+    // NOLINTBEGIN(readability-identifier-naming): the reader calls them by these names.
     bool Null() { return isOther() && ended(m_writer.Null()); }
     bool Bool(bool value)
     {
@@ -144,6 +145,7 @@ public:
     bool Int64(std::int64_t) { return false; }
     bool Uint64(std::uint64_t) { return false; }
     bool Double(double) { return false; }
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     static constexpr int entryDepth = 2;

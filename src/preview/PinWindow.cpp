@@ -34,12 +34,12 @@ QRect outerOf(QRectF frame)
 
 } // namespace
 
-PinWindow::PinWindow(const Surroundings& surroundings, const ShotActions& actions, const Shot& shot)
+PinWindow::PinWindow(const Surroundings& surroundings, const ShotActions& actions, Shot shot)
     : m_surroundings(surroundings)
     , m_actions(actions)
-    , m_shot(shot)
-    , m_size(QSizeF(shot.image.size()) / shot.scale)
-    , m_view(surroundings.themes, shot.image, this)
+    , m_shot(std::move(shot))
+    , m_size(QSizeF(m_shot.image.size()) / m_shot.scale)
+    , m_view(surroundings.themes, m_shot.image, this)
 {
     setWindowTitle(tr("Pinned capture"));
     setAccessibleName(windowTitle());

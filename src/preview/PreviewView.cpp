@@ -64,12 +64,12 @@ PreviewView::PreviewView(
     , m_prefs(prefs)
     , m_actions(std::move(actions))
     , m_content(std::move(content))
+    , m_hint(new TextLabel(themes, TextStyle::Caption, TextLabel::Role::Secondary))
 {
     makeThumbnail();
     auto* info = new TextLabel(themes, TextStyle::Callout);
     info->setText(m_content.info);
     info->setAlignment(Qt::AlignCenter);
-    m_hint = new TextLabel(themes, TextStyle::Caption, TextLabel::Role::Secondary);
     m_hint->setAlignment(Qt::AlignCenter);
     setStatus({});
 

@@ -59,7 +59,7 @@ private:
     const ShotActions m_actions;
     const Content m_content;
     PreviewThumbnail* m_thumbnail = nullptr;
-    TextLabel* m_hint = nullptr;
+    TextLabel* m_hint;
     QString m_status; ///< Of the last action; empty when it has been seen.
     PreviewCountdown m_countdown;
     QTimer m_tick;

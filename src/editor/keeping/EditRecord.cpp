@@ -139,10 +139,11 @@ Result<EditRecord> EditRecord::decoded(QByteArrayView bytes)
     RecordReader from(content);
     if (from.number<quint32>() != magic)
         return damaged;
-    if (const auto stated = from.number<quint16>(); stated > version)
+    const auto stated = from.number<quint16>();
+    if (stated > version)
         return Error::failed(
             Words::tr("The record of an edit is of a newer version of Pixmallow."));
-    else if (stated != version
+    if (stated != version
         || RecordReader(bytes.last(checksumSize)).number<quint64>() != checksum(content))
         return damaged;
     EditRecord record;

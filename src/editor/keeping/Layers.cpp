@@ -40,8 +40,8 @@ std::optional<KeptEdit> Layers::find(const PixelHash& picture, const QString& hi
 {
     const QString owner = ownerOf(historyId);
     auto names = m_folder.records();
-    std::ranges::stable_partition(
-        names, [&](const EditFolder::Name& name) { return name.owner == owner; });
+    std::stable_partition(names.begin(), names.end(),
+        [&](const EditFolder::Name& name) { return name.owner == owner; });
     for (const auto& name : names)
         if (name.key == picture.text())
             if (auto edit = m_folder.read(name))
