@@ -42,14 +42,46 @@ void size(CanvasModel& model, QPointF by)
     });
 }
 
-void make(CanvasModel& model, const QRectF& seen)
+QRectF middleOf(const QRectF& seen)
 {
     QRectF box({}, seen.size() / partInSight);
     box.moveCenter(seen.center());
+    return box;
+}
+
+void make(CanvasModel& model, const QRectF& seen)
+{
+    const QRectF box = middleOf(seen);
     model.document().select({}); // Or the press might move that one.
     model.press(box.topLeft(), 1);
     model.drag(box.bottomRight());
     model.release(box.bottomRight());
+}
+
+/// Outlines what is kept, moves and sizes that, and at last cuts the rest off.
+bool crop(CanvasModel& model, int key, Qt::KeyboardModifiers modifiers, const QRectF& seen)
+{
+    const bool control = modifiers & Qt::ControlModifier;
+    const bool enters = (key == Qt::Key_Return || key == Qt::Key_Enter) && !control;
+    if (!model.cropRect()) {
+        if (enters)
+            model.outlineCrop(middleOf(seen));
+        return enters;
+    }
+    QRectF box = *model.cropRect();
+    if (enters) {
+        model.release(box.bottomRight());
+        return true;
+    }
+    const QPointF by = QPointF(directionOf(key)) * (modifiers & Qt::ShiftModifier ? farStep : step);
+    const QRectF picture = std::as_const(model).document().base().rect();
+    if (control)
+        box.setSize((box.size() + QSizeF(by.x(), by.y())).expandedTo({step, step}));
+    else
+        box.translate(by);
+    if (picture.contains(box))
+        model.outlineCrop(box);
+    return !by.isNull();
 }
 
 } // namespace
@@ -57,6 +89,8 @@ void make(CanvasModel& model, const QRectF& seen)
 bool CanvasKeys::take(
     CanvasModel& model, int key, Qt::KeyboardModifiers modifiers, const QRectF& seen)
 {
+    if (model.tool() == Tool::Crop && crop(model, key, modifiers, seen))
+        return true;
     if (model.isPressed() || model.textPrompt())
         return false;
     const Annotation* const selected = std::as_const(model).document().selected();

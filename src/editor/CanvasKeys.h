@@ -6,7 +6,8 @@
 
 /// What the mouse does on the canvas, done with keys: Return makes an annotation with the tool in
 /// hand, or opens the selected text; Ctrl+Tab goes from one to the next; Ctrl with the arrow keys
-/// sizes the selected one, in longer steps with Shift. The model's own keys do the rest.
+/// sizes the selected one, in longer steps with Shift. A crop is begun and ended with Return and
+/// moved and sized in the same way. The model's own keys do the rest.
 namespace CanvasKeys {
 
 /// Whether the key was one of these, and is done.

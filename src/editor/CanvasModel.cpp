@@ -197,6 +197,14 @@ void CanvasModel::release(QPointF at)
     idle();
 }
 
+void CanvasModel::outlineCrop(const QRectF& rect)
+{
+    if (!m_cropRect)
+        press(rect.topLeft(), 1);
+    m_dragStart = rect.topLeft();
+    drag(rect.bottomRight());
+}
+
 CanvasModel::KeyAnswer CanvasModel::key(
     int key, Qt::KeyboardModifiers modifiers, const QString& typed)
 {

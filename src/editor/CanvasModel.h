@@ -43,6 +43,7 @@ public:
     void press(QPointF at, double magnification, Click click = Click::Single);
     void drag(QPointF at, Qt::KeyboardModifiers modifiers = {});
     void release(QPointF at);
+    void outlineCrop(const QRectF& rect); ///< As if the mouse had been dragged along it so far.
     bool isPressed() const { return m_pressed; } ///< The mouse is making or changing something.
     KeyAnswer key(int key, Qt::KeyboardModifiers modifiers, const QString& typed = {});
 

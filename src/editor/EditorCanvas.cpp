@@ -257,7 +257,7 @@ void EditorCanvas::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_panFrom)
         return pan(event->position().toPoint());
-    if (!m_model.isPressed())
+    if (!m_model.isPressed() || !event->buttons()) // Or the keyboard is at work.
         return;
     m_model.drag(m_view.toPicture(event->position()), event->modifiers());
     refresh();

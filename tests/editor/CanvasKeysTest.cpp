@@ -69,6 +69,31 @@ TEST_F(CanvasKeysTest, asksForATextAndOpensItAgain)
     EXPECT_EQ(document.annotations().size(), 1u);
 }
 
+TEST_F(CanvasKeysTest, cropsWithoutAMouse)
+{
+    model.setTool(Tool::Crop);
+    EXPECT_FALSE(press(Qt::Key_Right));
+    ASSERT_TRUE(press(Qt::Key_Return));
+    ASSERT_EQ(model.cropRect(), QRectF(200, 140, 100, 80)) << "in the middle of what is seen";
+    press(Qt::Key_Right);
+    press(Qt::Key_Up, Qt::ShiftModifier);
+    press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    press(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(model.cropRect(), QRectF(201, 130, 110, 79));
+    model.key(Qt::Key_Escape, {});
+    EXPECT_FALSE(model.cropRect());
+    EXPECT_EQ(document.base().size(), QSize(600, 400));
+
+    press(Qt::Key_Return);
+    for (int i = 0; i < 50; ++i)
+        press(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(model.cropRect(), QRectF(0, 140, 100, 80)) << "it stays within the picture";
+    press(Qt::Key_Return);
+    EXPECT_EQ(document.base().size(), QSize(100, 80));
+    model.document().undo();
+    EXPECT_EQ(document.base().size(), QSize(600, 400));
+}
+
 TEST_F(CanvasKeysTest, leavesOtherKeysToOthers)
 {
     EXPECT_FALSE(press(Qt::Key_Tab)) << "it leads out of the canvas";
