@@ -4,7 +4,9 @@
 #include "capture/Toast.h"
 #include "editor/EditorCanvas.h"
 #include "history/HistoryGrid.h"
+#include "preview/Pins.h"
 #include "preview/PreviewPanel.h"
+#include "tests/accessibility/AccessibleWalk.h"
 #include "tests/capture/SurfaceTest.h"
 #include "tests/gallery/EditorScenes.h"
 #include "tests/gallery/HistoryScenes.h"
@@ -12,6 +14,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -101,6 +104,22 @@ TEST_F(AccessiblePartsTest, cardsOfTheHistoryAreItemsOfAList)
     ASSERT_EQ(list->childCount(), 1);
     EXPECT_TRUE(list->child(0)->text(QAccessible::Name).startsWith(u"Phone"_s));
     EXPECT_EQ(list->child(1), nullptr);
+}
+
+TEST_F(AccessiblePartsTest, aPinTellsWhatItIsAndHasItsMenuOnTheKeyboard)
+{
+    Pins pins({world.themes, world.surfaces}, {});
+    PinWindow& pin = pins.show({GalleryWorld::picture({320, 200}), 1, u"Terminal"_s, {}});
+    QApplication::processEvents();
+    EXPECT_EQ(AccessibleWalk::lacking(pin), QStringList());
+    EXPECT_EQ(
+        QAccessible::queryAccessibleInterface(&pin)->text(QAccessible::Name), u"Pinned capture"_s);
+    const QPoint centre = pin.rect().center();
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, centre, pin.mapToGlobal(centre));
+    QApplication::sendEvent(&pin, &menuKey);
+    auto* const menu = pin.findChild<QMenu*>();
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(AccessibleWalk::lacking(*menu), QStringList());
 }
 
 TEST_F(AccessiblePartsTest, annotationsTellTheirKindAndPlace)

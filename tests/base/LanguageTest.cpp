@@ -13,8 +13,8 @@ namespace {
 
 /// A program that is told once what its user wants to read.
 struct Program {
-    explicit Program(const QStringList& languages)
-        : wanted(languages)
+    explicit Program(QStringList languages)
+        : wanted(std::move(languages))
     {
     }
 

@@ -4,9 +4,11 @@
 
 #include "editor/EditorCanvas.h"
 #include "editor/EditorWindow.h"
+#include "editor/MemeDialog.h"
 #include "editor/Memes.h"
 #include "editor/StickerPickerView.h"
 
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -76,4 +78,12 @@ std::unique_ptr<QWidget> EditorScenes::phrases(GalleryWorld& world)
     tabs->setCurrent(1);
     Q_EMIT tabs->chosen(1);
     return picker;
+}
+
+std::unique_ptr<QWidget> EditorScenes::meme(GalleryWorld& world)
+{
+    auto dialog = std::make_unique<MemeDialog>(world.themes);
+    dialog->setWindowFlags(Qt::Widget);
+    dialog->findChild<QLineEdit*>()->setText(u"nobody:"_s);
+    return dialog;
 }

@@ -12,5 +12,6 @@ std::unique_ptr<QWidget> window(GalleryWorld& world, int width);
 
 std::unique_ptr<QWidget> stickers(GalleryWorld& world);
 std::unique_ptr<QWidget> phrases(GalleryWorld& world);
+std::unique_ptr<QWidget> meme(GalleryWorld& world);
 
 } // namespace EditorScenes

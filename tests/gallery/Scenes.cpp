@@ -157,6 +157,7 @@ const QList<Scene>& scenes()
             [](GalleryWorld& world) { return EditorScenes::window(world, 760); }},
         {u"stickers"_s, Scene::Ground::Card, EditorScenes::stickers},
         {u"phrases"_s, Scene::Ground::Card, EditorScenes::phrases},
+        {u"meme"_s, Scene::Ground::Window, EditorScenes::meme},
         {u"countdown"_s, Scene::Ground::Card,
             [](GalleryWorld& world) { return std::make_unique<CountdownView>(world.themes, 3); }},
         {u"welcome"_s, Scene::Ground::None,

@@ -219,9 +219,9 @@ TEST(HistoryModelTest, survivesAnyIndex)
         SCOPED_TRACE(seed);
         std::mt19937 random {unsigned(seed)};
         QDir(place.folder()).removeRecursively();
-        place.put(place.copyPath(copied), pngOf(sampleImage(1)));
+        HistoryPlace::put(place.copyPath(copied), pngOf(sampleImage(1)));
         const QByteArray text = damaged(HistoryIndex::toJson(sound), random);
-        place.put(place.indexPath(), text);
+        HistoryPlace::put(place.indexPath(), text);
 
         auto& store = place.store();
         const auto expected = HistoryIndex::parse(text);

@@ -13,9 +13,9 @@ constexpr qint64 sameClick = 250; // Milliseconds.
 
 } // namespace
 
-MenuPanel::MenuPanel(const Surroundings& surroundings, const PanelView::Means& means)
+MenuPanel::MenuPanel(const Surroundings& surroundings, PanelView::Means means)
     : m_surroundings(surroundings)
-    , m_means(means)
+    , m_means(std::move(means))
 {
 }
 

@@ -16,7 +16,7 @@ class MenuPanel final : public QObject {
     Q_OBJECT
 
 public:
-    MenuPanel(const Surroundings& surroundings, const PanelView::Means& means);
+    MenuPanel(const Surroundings& surroundings, PanelView::Means means);
 
     /// @param icon where the tray's icon is, in points of the desktop, y down; where that is not
     /// known, it opens at the pointer

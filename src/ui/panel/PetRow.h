@@ -23,7 +23,7 @@ protected:
 
 private:
     void describe();
-    void paintLevel(QPainter& painter, QRectF box) const;
+    void paintLevel(QPainter& painter, QRectF line) const;
 
     const Themes& m_themes;
     const Fun& m_fun;
