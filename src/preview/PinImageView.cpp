@@ -3,6 +3,7 @@
 #include "preview/PinImageView.h"
 
 #include "preview/PinRules.h"
+#include "widgets/Accessible.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -30,6 +31,7 @@ PinImageView::PinImageView(const Themes& themes, const QImage& image, QWidget* p
     , m_themes(themes)
     , m_picture(image)
 {
+    Accessible::describe(*this, {QAccessible::Graphic});
     setMouseTracking(true);
     connect(&m_themes, &Themes::changed, this, qOverload<>(&QWidget::update));
 }

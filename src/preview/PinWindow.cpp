@@ -43,6 +43,7 @@ PinWindow::PinWindow(const Surroundings& surroundings, const ShotActions& action
 {
     setWindowTitle(tr("Pinned capture"));
     setAccessibleName(windowTitle());
+    m_view.setAccessibleName(m_shot.app.isEmpty() ? windowTitle() : m_shot.app);
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);

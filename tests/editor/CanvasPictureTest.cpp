@@ -233,7 +233,7 @@ TEST(CanvasPictureTest, halvesByAveragingFour)
                     sum += int(
                         image.pixel(std::min(2 * x + dx, 32), std::min(2 * y + dy, 20)) >> shift
                         & 255);
-                ASSERT_NEAR(int(half.pixel(x, y) >> shift & 255), sum / 4, 1);
+                ASSERT_NEAR(int(half.pixel(x, y) >> shift & 255), sum / 4.0, 1);
             }
     QImage pieces(17, 11, image.format());
     for (int y = 0; y < 11; y += 3)

@@ -65,9 +65,9 @@ bool AccessibilityBus::isInstalled()
     return QFile::exists(launcherPath);
 }
 
-AccessibilityBus::AccessibilityBus(std::unique_ptr<Client> launcher, const QDBusConnection& bus)
+AccessibilityBus::AccessibilityBus(std::unique_ptr<Client> launcher, QDBusConnection bus)
     : m_launcher(std::move(launcher))
-    , m_bus(bus)
+    , m_bus(std::move(bus))
 {
 }
 

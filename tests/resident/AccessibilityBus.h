@@ -35,7 +35,7 @@ public:
         const QList<Object>& objects, const QString& role, const QString& name);
 
 private:
-    AccessibilityBus(std::unique_ptr<Client> launcher, const QDBusConnection& bus);
+    AccessibilityBus(std::unique_ptr<Client> launcher, QDBusConnection bus);
 
     void collect(
         QList<Object>& objects, const QString& service, const QString& path, int parent) const;

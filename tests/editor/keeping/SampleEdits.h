@@ -39,10 +39,10 @@ inline Annotation annotation(std::mt19937& random)
     it.b = {number(300), number(200)};
     for (int i = int(random() % 40); i > 0; --i)
         it.points.append({number(240) / 3, number(160) / 7});
-    it.text = texts[random() % 4];
+    it.text = texts[qsizetype(random() % 4)];
     it.fontSize = 8 + number(90);
     it.number = int(random() % 100) - 5;
-    it.emoji = texts[1 + random() % 3];
+    it.emoji = texts[qsizetype(1 + random() % 3)];
     it.rotation = number(720) - 360;
     it.style = random() % 2 ? QStringLiteral("Neon") : QStringLiteral("no such style");
     it.centered = random() % 2;
