@@ -34,9 +34,9 @@ QRect outerOf(QRectF frame)
 
 } // namespace
 
-PinWindow::PinWindow(const Surroundings& surroundings, const ShotActions& actions, Shot shot)
+PinWindow::PinWindow(const Surroundings& surroundings, ShotActions actions, Shot shot)
     : m_surroundings(surroundings)
-    , m_actions(actions)
+    , m_actions(std::move(actions))
     , m_shot(std::move(shot))
     , m_size(QSizeF(m_shot.image.size()) / m_shot.scale)
     , m_view(surroundings.themes, m_shot.image, this)

@@ -12,7 +12,7 @@ class PinWindow final : public QWidget {
     Q_OBJECT
 
 public:
-    PinWindow(const Surroundings& surroundings, const ShotActions& actions, Shot shot);
+    PinWindow(const Surroundings& surroundings, ShotActions actions, Shot shot);
     ~PinWindow() override;
 
     /// Shows it in the middle of the screen under the pointer.
