@@ -62,8 +62,8 @@ protected:
 TEST_F(HostileWindowsTest, bringNeitherProgramDown)
 {
     Outcome outcome(u"Windows that say anything of themselves"_s);
-    auto started = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
-    ASSERT_TRUE(started) << started.error().message.toStdString();
+    const auto resident = launchResident();
+    ASSERT_TRUE(resident);
     for (int round = 0; round < soaked(4); ++round) {
         SCOPED_TRACE(testing::Message() << "seed " << round);
         Mutator chance {unsigned(round)};
@@ -83,6 +83,6 @@ TEST_F(HostileWindowsTest, bringNeitherProgramDown)
         for (const xcb_window_t window : windows)
             xcb_destroy_window(desktop().connection(), window);
         xcb_flush(desktop().connection());
-        ASSERT_TRUE((*started)->isRunning());
+        ASSERT_TRUE(resident->isRunning());
     }
 }

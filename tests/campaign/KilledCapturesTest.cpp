@@ -29,12 +29,8 @@ class KilledCapturesTest : public ResidentDesktop<smallDesktop> {
 protected:
     void start()
     {
-        auto started = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
-        ASSERT_TRUE(started) << started.error().message.toStdString();
-        resident = *std::move(started);
-        ASSERT_TRUE(waitFor([this] { return pixmallow({u"list"_s, u"history"_s}).exitCode == 0; }));
-        const QString runtime = desktop().environment().value(u"XDG_RUNTIME_DIR"_s);
-        ASSERT_TRUE(waitFor([&] { return QFile::exists(runtime + u"/pixmallow/control"_s); }));
+        resident = launchResident();
+        ASSERT_TRUE(resident);
     }
 
     /// The reports of captures that were done before the kill.

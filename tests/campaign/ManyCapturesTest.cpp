@@ -32,13 +32,8 @@ protected:
         QImage ground(640, 480, QImage::Format_RGB32);
         ground.fill(QColor(150, 160, 170));
         desktop().setRootPicture(ground);
-        auto started = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
-        ASSERT_TRUE(started) << started.error().message.toStdString();
-        resident = *std::move(started);
-        ASSERT_TRUE(waitFor([] {
-            const QString runtime = desktop().environment().value(u"XDG_RUNTIME_DIR"_s);
-            return QFile::exists(runtime + u"/pixmallow/control"_s);
-        }));
+        resident = launchResident();
+        ASSERT_TRUE(resident);
     }
 
     void take(int number)

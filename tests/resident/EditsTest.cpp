@@ -39,10 +39,8 @@ protected:
 
     void start()
     {
-        auto started = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
-        ASSERT_TRUE(started) << started.error().message.toStdString();
-        resident = *std::move(started);
-        ASSERT_TRUE(waitFor([this] { return pixmallow({u"list"_s, u"screens"_s}).exitCode == 0; }));
+        resident = launchResident();
+        ASSERT_TRUE(resident);
     }
 
     static QString file() { return desktop().home() + u"/sky.png"_s; }

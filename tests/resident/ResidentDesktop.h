@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/LocalSocket.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QDir>
@@ -31,6 +32,24 @@ protected:
         const auto finished = Base::desktop().run(QStringLiteral("pixmallow"), arguments);
         EXPECT_TRUE(finished) << finished.error().message.toStdString();
         return finished ? *finished : VirtualDesktop::Finished {-1, {}, {}};
+    }
+
+    /// The resident program, once it listens: before, a command would start one of its own.
+    static std::unique_ptr<Client> launchResident()
+    {
+        auto started = Base::desktop().launch(
+            QStringLiteral("pixmallow-desktop"), {QStringLiteral("--background")});
+        EXPECT_TRUE(started) << started.error().message.toStdString();
+        if (!started)
+            return nullptr;
+        const QString socket
+            = Base::desktop().environment().value(QStringLiteral("XDG_RUNTIME_DIR"))
+            + QStringLiteral("/pixmallow/control");
+        EXPECT_TRUE(waitFor([&] { // One that was killed has left its socket.
+            const auto connection = LocalSocket::connect(socket, patience);
+            return connection && connection->has_value();
+        }));
+        return *std::move(started);
     }
 
     QJsonObject capture(const QString& kind)

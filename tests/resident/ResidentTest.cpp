@@ -43,11 +43,8 @@ protected:
             GTEST_SKIP() << "xterm is not installed; this test needs text on the screen";
         if (!QFile::exists(QCoreApplication::applicationDirPath() + u"/libpixmallow-text.so"_s))
             GTEST_SKIP() << "This was built without text recognition.";
-        auto started = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
-        ASSERT_TRUE(started);
-        resident = *std::move(started);
-        const QString folder = desktop().environment().value(u"XDG_RUNTIME_DIR"_s);
-        ASSERT_TRUE(waitFor([&] { return QFile::exists(folder + u"/pixmallow/control"_s); }));
+        resident = launchResident();
+        ASSERT_TRUE(resident);
     }
 
     void showText(const QString& command, const QString& size)
@@ -293,14 +290,12 @@ TEST_F(ResidentTest, finishesTheCaptureThatRunsWhenItIsTerminated)
 {
     for (const int signal : {SIGTERM, SIGINT, SIGKILL}) {
         const auto before = saved();
-        auto resident = desktop().launch(u"pixmallow-desktop"_s, {u"--background"_s});
+        const auto resident = launchResident();
         ASSERT_TRUE(resident);
-        const QString folder = desktop().environment().value(u"XDG_RUNTIME_DIR"_s);
-        ASSERT_TRUE(waitFor([&] { return QFile::exists(folder + u"/pixmallow/control"_s); }));
         // Accepted, the capture then waits 0.12 s before it reads the screen.
         EXPECT_EQ(pixmallow({u"capture"_s, u"screen"_s}).exitCode, 0);
-        ::kill(pid_t((*resident)->pid()), signal);
-        ASSERT_TRUE((*resident)->waitForEnd());
+        ::kill(pid_t(resident->pid()), signal);
+        ASSERT_TRUE(resident->waitForEnd());
         const bool finished = signal != SIGKILL;
         EXPECT_EQ(saved().size(), before.size() + (finished ? 1 : 0)) << signal;
         for (const auto& name : saved(QDir::Files | QDir::Hidden))
