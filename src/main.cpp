@@ -74,8 +74,6 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     Surfaces surfaces(*platform, prefs, rooms, state, hotkeys);
 
     rooms.updater().start();
-    if (start == Start::Seen)
-        rooms.welcome();
     rooms.offerLeftBehind();
 
     const TerminationSignals signals;
@@ -88,6 +86,8 @@ int runResident(const Folders& folders, std::unique_ptr<ControlServer> server, S
     const auto requests = Requests::to(state, rooms);
     server->serve(requests);
     const BusService bus({requests, state, rooms.history(), folders.data});
+    if (start == Start::Seen)
+        requests.activate();
     const int code = QApplication::exec();
     rooms.cancelQuestions();
     finishCapture(state);
