@@ -32,7 +32,10 @@ Result<void> runShow(const ShowRequest& request)
     if (!resident)
         return resident.error();
     const auto answer = resident->ask(Control::Show {request.what});
-    return answer ? Result<void>() : answer.error();
+    if (!answer)
+        return answer.error();
+    const auto* const report = std::get_if<CaptureReport>(&*answer);
+    return report ? Error::failed(report->reason) : Result<void>(); // A reason why it cannot.
 }
 
 Result<void> runQuit()
