@@ -122,13 +122,13 @@ void measureView(EditorCanvas& canvas, int count)
     struct Range {
         double from, to;
     };
-    for (const auto [from, to] : {Range {0.26, 0.98}, Range {1.1, 6}}) {
-        const QString name = u"zoom between %1 and %2"_s.arg(from).arg(to);
+    for (const Range range : {Range {0.26, 0.98}, Range {1.1, 6}}) {
+        const QString name = u"zoom between %1 and %2"_s.arg(range.from).arg(range.to);
         double part = 0;
         Rounds rounds;
         rounds.add(name, [&] {
             part = part >= 1 ? 0 : part + 0.05;
-            canvas.magnify(from * std::pow(to / from, part), {500, 400});
+            canvas.magnify(range.from * std::pow(range.to / range.from, part), {500, 400});
             QApplication::processEvents();
         });
         rounds.run(count);

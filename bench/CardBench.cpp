@@ -126,6 +126,6 @@ int main(int argc, char** argv)
     const Themes themes(skins, *platform->appearance);
     PreviewPanel panel({themes, *platform->surfaces}, prefs, fun, {}, u"Show in Folder"_s);
     const Shot shot {drawScreen(ScreenContent::Desk, {3840, 2160}), 1, u"Screen"_s, {}};
-    measure(panel, prefs, shot, std::max(1, application.arguments().value(1, u"9"_s).toInt()));
+    measure(panel, prefs, shot, std::max(1, QApplication::arguments().value(1, u"9"_s).toInt()));
     return 0;
 }

@@ -131,6 +131,6 @@ int main(int argc, char** argv)
         return 2;
     }
     World world(*platform);
-    measure(*platform, world, std::max(1, application.arguments().value(1, u"9"_s).toInt()));
+    measure(*platform, world, std::max(1, QApplication::arguments().value(1, u"9"_s).toInt()));
     return 0;
 }

@@ -21,13 +21,13 @@ class FullDiskDesktopTest : public ResidentDesktop<smallDesktop> {
 protected:
     void SetUp() override
     {
-        ServerTest::SetUp();
+        ResidentDesktop::SetUp();
         if (IsSkipped())
             return;
         disk = std::make_unique<SmallDisk>(desktop().home());
         if (!disk->isMounted())
             GTEST_SKIP() << "a full disk needs a small file system, and mounting one needs root";
-        ResidentDesktop::SetUp();
+        ResidentDesktop::SetUp(); // The preferences are to lie on that disk.
     }
     void TearDown() override
     {

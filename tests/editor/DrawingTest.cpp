@@ -158,13 +158,14 @@ protected:
 
 } // namespace
 
-/// PIXMALLOW_WRITE_GOLDEN=1 takes what is drawn now for right; look at it before you commit it.
+/// PIXMALLOW_NEW_GOLDEN_IMAGES=1 takes what is drawn now for right; look at it before you commit
+/// it.
 TEST_F(DrawingTest, looksAsItDid)
 {
     for (const Subject& subject : subjects()) {
         const QString file = goldenFile(subject.name);
         const QImage image = drawn(subject);
-        if (qEnvironmentVariableIntValue("PIXMALLOW_WRITE_GOLDEN")) {
+        if (qEnvironmentVariableIntValue("PIXMALLOW_NEW_GOLDEN_IMAGES")) {
             ASSERT_TRUE(image.save(file)) << file.toStdString();
             continue;
         }
