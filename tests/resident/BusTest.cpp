@@ -407,6 +407,7 @@ TEST_F(StartTest, worksWithoutABus)
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nowhere/bus"_s);
     Client resident(environment);
     ASSERT_TRUE(resident.start(desktop().find(u"pixmallow-desktop"_s), {u"--background"_s}));
+    ASSERT_TRUE(waitUntilResidentListens());
     EXPECT_EQ(capture(u"screen"_s)[u"outcome"_s], u"done"_s);
     EXPECT_TRUE(resident.isRunning()) << "that one took the capture";
     pixmallow({u"quit"_s});

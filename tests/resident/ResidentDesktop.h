@@ -34,7 +34,19 @@ protected:
         return finished ? *finished : VirtualDesktop::Finished {-1, {}, {}};
     }
 
-    /// The resident program, once it listens: before, a command would start one of its own.
+    /// Before, a command would start a resident program of its own.
+    static bool waitUntilResidentListens()
+    {
+        const QString socket
+            = Base::desktop().environment().value(QStringLiteral("XDG_RUNTIME_DIR"))
+            + QStringLiteral("/pixmallow/control");
+        return waitFor([&] { // One that was killed has left its socket.
+            const auto connection = LocalSocket::connect(socket, patience);
+            return connection && connection->has_value();
+        });
+    }
+
+    /// The resident program, once it listens.
     static std::unique_ptr<Client> launchResident()
     {
         auto started = Base::desktop().launch(
@@ -42,13 +54,7 @@ protected:
         EXPECT_TRUE(started) << started.error().message.toStdString();
         if (!started)
             return nullptr;
-        const QString socket
-            = Base::desktop().environment().value(QStringLiteral("XDG_RUNTIME_DIR"))
-            + QStringLiteral("/pixmallow/control");
-        EXPECT_TRUE(waitFor([&] { // One that was killed has left its socket.
-            const auto connection = LocalSocket::connect(socket, patience);
-            return connection && connection->has_value();
-        }));
+        EXPECT_TRUE(waitUntilResidentListens());
         return *std::move(started);
     }
 

@@ -251,6 +251,7 @@ TEST_F(ResidentTest, runsOnceHoweverOftenItIsStarted)
     auto replacement = desktop().launch(u"pixmallow-desktop"_s, {u"--replace"_s});
     ASSERT_TRUE(replacement);
     EXPECT_TRUE(waitFor([&] { return running() == 0; }));
+    EXPECT_TRUE(waitUntilResidentListens());
     EXPECT_EQ(capture(u"screen"_s)[u"outcome"_s], u"done"_s);
     EXPECT_TRUE((*replacement)->isRunning());
     for (auto& each : started)
@@ -275,6 +276,7 @@ TEST_F(ResidentTest, isReplacedByTheOneThatIsStartedToTakeItsPlace)
         return std::ranges::count_if(replacements, [](auto& each) { return each->isRunning(); });
     };
     ASSERT_TRUE(waitFor([&] { return running() == 1; }));
+    ASSERT_TRUE(waitUntilResidentListens());
     EXPECT_EQ(saved().size(), before.size() + 2) << "the old one finished what it was doing";
     for (const auto& each : replacements)
         EXPECT_TRUE(each->isRunning() || each->exitCode() == 0) << each->errors().toStdString();
