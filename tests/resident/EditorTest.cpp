@@ -201,9 +201,12 @@ TEST_F(EditorTest, captureIsEditedFromTheEditorThatOpensAfterIt)
     const auto report = capture(u"screen"_s);
     const QString path = report[u"path"_s].toString();
     const QImage before(path);
-    ASSERT_TRUE(waitFor([&] { return !isClosed(); }));
+    ASSERT_TRUE(waitFor([&] { return !isClosed() && hasKeyboard(); }));
+    const QRect middle(600, 400, 1, 1);
+    const QImage there = settledPixels(middle);
     desktop().key("x");
     desktop().drag({500, 350}, {700, 450}, 5ms);
+    ASSERT_TRUE(waitFor([&] { return desktop().rootPixels(middle) != there; }));
     pixmallow({u"quit"_s}); // Closes it by the rule.
     EXPECT_FALSE(equal(QImage(path), before)) << "the edit is lost";
     EXPECT_EQ(QImage(path).size(), before.size());

@@ -77,15 +77,6 @@ protected:
             << ' ' << place.y() << ' ' << place.width() << ' ' << place.height();
     }
 
-    /// The newest window has it.
-    static bool hasKeyboard()
-    {
-        const xcb_window_t root = desktop().screen().root;
-        const auto windows = desktop().property(root, "_NET_CLIENT_LIST");
-        const auto active = desktop().property(root, "_NET_ACTIVE_WINDOW");
-        return !windows.empty() && !active.empty() && active.front() == windows.back();
-    }
-
     /// One of the four quarters: its middle in the picture, and what is drawn over it.
     static QPoint middle(int quarter) { return {75 + 150 * quarter, 150}; }
     static QPoint corner(int quarter) { return middle(quarter) - QPoint(50, 60); }

@@ -58,6 +58,15 @@ protected:
         return *std::move(started);
     }
 
+    /// Whether the newest window has it.
+    static bool hasKeyboard()
+    {
+        const xcb_window_t root = Base::desktop().screen().root;
+        const auto windows = Base::desktop().property(root, "_NET_CLIENT_LIST");
+        const auto active = Base::desktop().property(root, "_NET_ACTIVE_WINDOW");
+        return !windows.empty() && !active.empty() && active.front() == windows.back();
+    }
+
     QJsonObject capture(const QString& kind)
     {
         const auto finished = pixmallow(
