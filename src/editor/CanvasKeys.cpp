@@ -89,9 +89,11 @@ bool crop(CanvasModel& model, int key, Qt::KeyboardModifiers modifiers, const QR
 bool CanvasKeys::take(
     CanvasModel& model, int key, Qt::KeyboardModifiers modifiers, const QRectF& seen)
 {
+    if (model.textPrompt())
+        return false;
     if (model.tool() == Tool::Crop && crop(model, key, modifiers, seen))
         return true;
-    if (model.isPressed() || model.textPrompt())
+    if (model.isPressed())
         return false;
     const Annotation* const selected = std::as_const(model).document().selected();
     const bool control = modifiers & Qt::ControlModifier;
